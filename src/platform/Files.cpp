@@ -1,0 +1,95 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "platform/Files.h"
+
+#include "platform/RuntimeError.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QSaveFile>
+#include <QTextStream>
+
+namespace Files {
+namespace {
+
+void OpenForReading(QFile& file)
+{
+  if (!file.exists()) {
+    RaiseError(ErrorNumber::kFileNotFound);
+  }
+  if (!file.open(QIODevice::ReadOnly)) {
+    RaiseError(ErrorNumber::kFileAccess);
+  }
+}
+
+void Pour(QFile& source, QSaveFile& target)
+{
+  constexpr qint64 kBlock = 1 << 16;
+  while (!source.atEnd()) {
+    const QByteArray block = source.read(kBlock);
+    if (block.isEmpty() || target.write(block) != block.size()) {
+      RaiseError(ErrorNumber::kFileAccess);
+    }
+  }
+}
+
+}
+
+qint64 FileLen(const QString& path)
+{
+  const QFileInfo file(path);
+  if (!file.isFile()) {
+    RaiseError(ErrorNumber::kFileNotFound);
+  }
+  return file.size();
+}
+
+void DeleteFile(const QString& path)
+{
+  if (!QFileInfo(path).isFile()) {
+    RaiseError(ErrorNumber::kFileNotFound);
+  }
+  if (!QFile::remove(path)) {
+    RaiseError(ErrorNumber::kFileAccess);
+  }
+}
+
+void Name(const QString& oldPath, const QString& newPath)
+{
+  if (!QFileInfo(oldPath).isFile()) {
+    RaiseError(ErrorNumber::kFileNotFound);
+  }
+  if (!QFile::rename(oldPath, newPath)) {
+    RaiseError(ErrorNumber::kFileAccess);
+  }
+}
+
+void CopyFile(const QString& source, const QString& target)
+{
+  QFile from(source);
+  OpenForReading(from);
+  QSaveFile to(target);
+  if (!to.open(QIODevice::WriteOnly)) {
+    RaiseError(ErrorNumber::kFileAccess);
+  }
+  Pour(from, to);
+  if (!to.commit()) {
+    RaiseError(ErrorNumber::kFileAccess);
+  }
+}
+
+QStringList ReadLines(const QString& path)
+{
+  QFile file(path);
+  OpenForReading(file);
+  QTextStream stream(&file);
+  QStringList lines;
+  QString line;
+  while (stream.readLineInto(&line)) {
+    lines.append(line);
+  }
+  return lines;
+}
+
+}

@@ -1,0 +1,28 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+// Operations on files. Each throws a RuntimeError: 53 if a file is not there,
+// 75 if it cannot be read, written or removed.
+namespace Files {
+
+// Size in bytes.
+[[nodiscard]] qint64 FileLen(const QString& path);
+
+// Removes a file.
+void DeleteFile(const QString& path);
+
+// Gives a file another name; fails if the new name is taken.
+void Name(const QString& oldPath, const QString& newPath);
+
+// Copies a file over whatever stands at `target`. The copy appears whole or not at all.
+void CopyFile(const QString& source, const QString& target);
+
+// The lines of a UTF-8 text file, without their line ends.
+[[nodiscard]] QStringList ReadLines(const QString& path);
+
+}

@@ -1,0 +1,13 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include <QPixmap>
+
+// Loads a picture of any kind that Qt reads. Throws a RuntimeError: 53 if the file
+// is not there, 481 if it is no picture.
+[[nodiscard]] QPixmap LoadPicture(const QString& path);
+
+// The empty picture.
+[[nodiscard]] QPixmap LoadPicture();

@@ -1,0 +1,47 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "platform/RuntimeError.h"
+
+namespace {
+
+QString UsualText(int number)
+{
+  switch (number) {
+    case ErrorNumber::kOverflow:
+      return QStringLiteral("Overflow");
+    case ErrorNumber::kSubscriptOutOfRange:
+      return QStringLiteral("Subscript out of range");
+    case ErrorNumber::kTypeMismatch:
+      return QStringLiteral("Type mismatch");
+    case ErrorNumber::kFileNotFound:
+      return QStringLiteral("File not found");
+    case ErrorNumber::kFileAccess:
+      return QStringLiteral("Path/File access error");
+    case ErrorNumber::kInvalidUseOfNull:
+      return QStringLiteral("Invalid use of Null");
+    case ErrorNumber::kObjectUnloaded:
+      return QStringLiteral("Object was unloaded");
+    case ErrorNumber::kInvalidPicture:
+      return QStringLiteral("Invalid picture");
+    default:
+      return QStringLiteral("Unexpected error");
+  }
+}
+
+}
+
+RuntimeError::RuntimeError(int number, const QString& text)
+    : number_(number), text_(text), what_(Message().toUtf8())
+{
+}
+
+QString RuntimeError::Message() const
+{
+  return QStringLiteral("Run-time error '%1':\n\n%2").arg(number_).arg(text_);
+}
+
+void RaiseError(int number)
+{
+  throw RuntimeError(number, UsualText(number));
+}

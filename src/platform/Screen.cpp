@@ -1,0 +1,48 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "platform/Screen.h"
+
+#include "platform/Twips.h"
+
+#include <QGuiApplication>
+#include <QScreen>
+
+namespace Screen {
+namespace {
+
+QRect pretended;
+
+QRect Pixels()
+{
+  return pretended.isEmpty() ? QGuiApplication::primaryScreen()->geometry() : pretended;
+}
+
+}
+
+int Width()
+{
+  return TwipsFromPixels(Pixels().width());
+}
+
+int Height()
+{
+  return TwipsFromPixels(Pixels().height());
+}
+
+int TwipsPerPixelX()
+{
+  return kTwipsPerPixel;
+}
+
+int CentredLeft(int windowWidth)
+{
+  return Width() / 2 - windowWidth / 2;
+}
+
+void Pretend(const QRect& pixels)
+{
+  pretended = pixels;
+}
+
+}

@@ -1,0 +1,182 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "store/Connection.h"
+
+#include "platform/TextOrder.h"
+#include "store/SchemaReader.h"
+#include "store/StoreError.h"
+
+#include <QFileInfo>
+
+#include <sqlite3.h>
+
+namespace {
+
+constexpr int kPatienceMilliseconds = 1000;
+
+std::map<QString, std::weak_ptr<Connection>>& OpenConnections()
+{
+  static std::map<QString, std::weak_ptr<Connection>> connections;
+  return connections;
+}
+
+QString CanonicalPath(const QString& path)
+{
+  const QString canonical = QFileInfo(path).canonicalFilePath();
+  if (canonical.isEmpty()) {
+    StoreError::Raise(StoreError::kFileNotFound, path);
+  }
+  return canonical;
+}
+
+int CompareTexts(void*, int size, const void* text, int otherSize, const void* other)
+{
+  return TextOrder::Compare({static_cast<const char*>(text), static_cast<std::size_t>(size)},
+                            {static_cast<const char*>(other), static_cast<std::size_t>(otherSize)});
+}
+
+}
+
+std::shared_ptr<Connection> Connection::To(const QString& path)
+{
+  std::weak_ptr<Connection>& known = OpenConnections()[CanonicalPath(path)];
+  std::shared_ptr<Connection> connection = known.lock();
+  if (!connection) {
+    connection.reset(new Connection(path));
+    known = connection;
+  }
+  return connection;
+}
+
+long Connection::UsersOf(const QString& path)
+{
+  const auto found = OpenConnections().find(QFileInfo(path).canonicalFilePath());
+  return found == OpenConnections().end() ? 0 : found->second.use_count();
+}
+
+Connection::Connection(const QString& path)
+{
+  try {
+    Open(path);
+  } catch (const RuntimeError&) {
+    sqlite3_close_v2(handle_);
+    throw;
+  }
+}
+
+void Connection::Open(const QString& path)
+{
+  if (sqlite3_open_v2(path.toUtf8().constData(), &handle_, SQLITE_OPEN_READWRITE, nullptr) != SQLITE_OK) {
+    StoreError::RaiseFor(handle_);
+  }
+  sqlite3_busy_timeout(handle_, kPatienceMilliseconds);
+  sqlite3_db_config(handle_, SQLITE_DBCONFIG_DEFENSIVE, 1, nullptr);
+  sqlite3_db_config(handle_, SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0, nullptr);
+  sqlite3_create_collation(handle_, "TEXTORDER", SQLITE_UTF8, nullptr, CompareTexts);
+  Execute("SELECT count(*) FROM sqlite_master");
+  if (sqlite3_db_readonly(handle_, "main") != 0) {
+    StoreError::Raise(StoreError::kReadOnly);
+  }
+  Execute("PRAGMA synchronous = FULL");
+  Execute("PRAGMA journal_mode = DELETE");
+}
+
+Connection::~Connection()
+{
+  Command::Withdraw(*this);
+  RollBack();
+  for (const auto& [sql, statement] : statements_) {
+    sqlite3_finalize(statement);
+  }
+  sqlite3_close_v2(handle_);
+}
+
+sqlite3_stmt* Connection::Prepare(const QString& sql)
+{
+  const std::string text = sql.toStdString();
+  sqlite3_stmt*& statement = statements_[text];
+  if (statement == nullptr &&
+      sqlite3_prepare_v3(handle_, text.c_str(), -1, SQLITE_PREPARE_PERSISTENT, &statement, nullptr) != SQLITE_OK) {
+    statements_.erase(text);
+    StoreError::RaiseFor(handle_);
+  }
+  return statement;
+}
+
+void Connection::Execute(const char* sql)
+{
+  if (sqlite3_exec(handle_, sql, nullptr, nullptr, nullptr) != SQLITE_OK) {
+    StoreError::RaiseFor(handle_);
+  }
+}
+
+void Connection::BeginWrite()
+{
+  if (Command::IsRunning() && sqlite3_get_autocommit(handle_) != 0) {
+    Execute("BEGIN IMMEDIATE");
+    Command::Enlist(*this);
+  }
+}
+
+// A full disk takes the whole transaction back, not only the statement.
+void Connection::WriteFailed()
+{
+  if (sqlite3_get_autocommit(handle_) != 0) {
+    ++epoch_;
+  }
+}
+
+void Connection::Settle()
+{
+  if (sqlite3_get_autocommit(handle_) != 0) {
+    return;
+  }
+  if (sqlite3_exec(handle_, "COMMIT", nullptr, nullptr, nullptr) != SQLITE_OK) {
+    const int number = sqlite3_extended_errcode(handle_);
+    RollBack();
+    StoreError::RaiseFor(number);
+  }
+}
+
+void Connection::Abandon() noexcept
+{
+  RollBack();
+}
+
+void Connection::RollBack() noexcept
+{
+  if (sqlite3_get_autocommit(handle_) == 0) {
+    sqlite3_exec(handle_, "ROLLBACK", nullptr, nullptr, nullptr);
+    ++epoch_;
+  }
+}
+
+long long Connection::ChangeStamp()
+{
+  if (!Command::IsRunning() || commandSeen_ != Command::Serial()) {
+    LookForOutsideChanges();
+    commandSeen_ = Command::Serial();
+  }
+  return sqlite3_total_changes64(handle_) + (epoch_ << 40);
+}
+
+void Connection::LookForOutsideChanges()
+{
+  sqlite3_stmt* statement = Prepare(QStringLiteral("PRAGMA data_version"));
+  if (sqlite3_step(statement) == SQLITE_ROW && sqlite3_column_int(statement, 0) != outsideVersion_) {
+    outsideVersion_ = sqlite3_column_int(statement, 0);
+    ++epoch_;
+  }
+  sqlite3_reset(statement);
+}
+
+const TableSchema& Connection::Table(const QString& name)
+{
+  const QString folded = name.toCaseFolded();
+  const auto known = tables_.find(folded);
+  if (known != tables_.end()) {
+    return known->second;
+  }
+  return tables_.emplace(folded, ReadTableSchema(*this, name)).first->second;
+}

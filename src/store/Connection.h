@@ -1,0 +1,66 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include "platform/Command.h"
+#include "store/Schema.h"
+
+#include <map>
+#include <memory>
+#include <unordered_map>
+
+struct sqlite3;
+struct sqlite3_stmt;
+
+// The one connection to a database file, shared by all databases open on it.
+// Failures are thrown as RuntimeErrors of StoreError.
+class Connection : private Command::Participant
+{
+public:
+  // The open connection to `path`, or a new one. The file must exist and be a database.
+  static std::shared_ptr<Connection> To(const QString& path);
+
+  ~Connection() override;
+  Connection(const Connection&) = delete;
+  Connection& operator=(const Connection&) = delete;
+
+  // How many databases are open on the file at `path`.
+  static long UsersOf(const QString& path);
+
+  [[nodiscard]] sqlite3* Handle() const { return handle_; }
+
+  // A prepared statement, reset and without values; owned by the connection.
+  sqlite3_stmt* Prepare(const QString& sql);
+
+  // Runs SQL that gives no rows.
+  void Execute(const char* sql);
+
+  // Opens the transaction of the running command, if there is one, before a write.
+  void BeginWrite();
+
+  // To be called after a write that failed.
+  void WriteFailed();
+
+  // Any change to the file's contents, by whomever, gives another number.
+  // Changes by other programs are seen from the next command on.
+  long long ChangeStamp();
+
+  [[nodiscard]] const TableSchema& Table(const QString& name);
+
+private:
+  explicit Connection(const QString& path);
+
+  void Open(const QString& path);
+  void Settle() override;
+  void Abandon() noexcept override;
+  void RollBack() noexcept;
+  void LookForOutsideChanges();
+
+  sqlite3* handle_ = nullptr;
+  std::unordered_map<std::string, sqlite3_stmt*> statements_;
+  std::map<QString, TableSchema> tables_;
+  long commandSeen_ = -1;
+  int outsideVersion_ = 0;
+  long long epoch_ = 0;
+};

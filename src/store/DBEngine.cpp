@@ -1,0 +1,58 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "store/DBEngine.h"
+
+#include "platform/App.h"
+#include "platform/RuntimeError.h"
+#include "store/Connection.h"
+#include "store/Statement.h"
+#include "store/StoreError.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+Database Workspace::OpenDatabase(const QString& path)
+{
+  return Database(path);
+}
+
+namespace DBEngine {
+
+Workspace& Workspaces(int number)
+{
+  static Workspace defaultSession;
+  if (number != 0) {
+    RaiseError(ErrorNumber::kSubscriptOutOfRange);
+  }
+  return defaultSession;
+}
+
+void CompactDatabase(const QString& source, const QString& target)
+{
+  if (QFileInfo::exists(target)) {
+    StoreError::Raise(StoreError::kAlreadyExists, target);
+  }
+  if (Connection::UsersOf(source) > 0) {
+    StoreError::Raise(StoreError::kInUse);
+  }
+  const std::shared_ptr<Connection> connection = Connection::To(source);
+  try {
+    Statement(*connection, QStringLiteral("VACUUM INTO ?")).Bind(1, target).Step();
+  } catch (const RuntimeError&) {
+    QFile::remove(target);
+    throw;
+  }
+}
+
+QString DatabasePath()
+{
+  return App::File(QStringLiteral("/quillmark2002.mdb"));
+}
+
+Database OpenDatabase()
+{
+  return Workspaces(0).OpenDatabase(DatabasePath());
+}
+
+}

@@ -1,0 +1,42 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "store/Database.h"
+
+#include "store/Connection.h"
+#include "store/Dynaset.h"
+#include "store/Snapshot.h"
+#include "store/StoreError.h"
+#include "store/TableCursor.h"
+
+#include <algorithm>
+
+Database::Database(const QString& path) : connection_(Connection::To(path)) {}
+
+Database::~Database() = default;
+Database::Database(Database&&) noexcept = default;
+Database& Database::operator=(Database&&) noexcept = default;
+
+std::unique_ptr<Recordset> Database::OpenRecordset(const QString& source, int kind)
+{
+  if (!connection_) {
+    StoreError::Raise(StoreError::kClosed);
+  }
+  if (kind == kTable) {
+    return std::make_unique<TableCursor>(connection_, connection_->Table(source));
+  }
+  const Dialect::Select select = Dialect::ParseSelect(source);
+  const TableSchema& table = connection_->Table(select.table);
+  if (select.group) {
+    return std::make_unique<Snapshot>(connection_, select, table);
+  }
+  if (std::any_of(select.items.begin(), select.items.end(), [](const auto& item) { return item.counted; })) {
+    StoreError::Raise(StoreError::kSyntax, QStringLiteral("Count"));
+  }
+  return std::make_unique<Dynaset>(connection_, select, table);
+}
+
+void Database::Close()
+{
+  connection_.reset();
+}

@@ -1,0 +1,239 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "store/Dialect.h"
+
+#include "store/DialectTokens.h"
+#include "store/StoreError.h"
+
+#include <QStringList>
+
+namespace Dialect {
+namespace {
+
+class Parser
+{
+public:
+  explicit Parser(const QString& source) : tokens_(Tokenize(source)) {}
+
+  Select ParseSelect();
+  Criterion ParseCriterion();
+
+private:
+  [[nodiscard]] const Token& Next() const { return tokens_[at_]; }
+  [[noreturn]] void Refuse() const;
+
+  bool TakeWord(const char* word);
+  bool TakeSymbol(char symbol);
+  void ExpectWord(const char* word);
+  void ExpectSymbol(char symbol);
+  void ExpectEnd();
+  QString TakeName();
+
+  QString ParseColumn();
+  QString ParseColumnInBrackets();
+  Operand ParseOperand();
+  Expression ParseExpression();
+  Item ParseItem();
+
+  std::vector<Token> tokens_;
+  std::size_t at_ = 0;
+  QString qualifier_;  // the table that the columns are said to be of
+};
+
+void Parser::Refuse() const
+{
+  StoreError::Raise(StoreError::kSyntax, Next().text);
+}
+
+bool Parser::TakeWord(const char* word)
+{
+  if (Next().kind != TokenKind::kWord || Next().text.compare(QLatin1String(word), Qt::CaseInsensitive) != 0) {
+    return false;
+  }
+  ++at_;
+  return true;
+}
+
+bool Parser::TakeSymbol(char symbol)
+{
+  if (Next().kind != TokenKind::kSymbol || Next().text != QLatin1Char(symbol)) {
+    return false;
+  }
+  ++at_;
+  return true;
+}
+
+void Parser::ExpectWord(const char* word)
+{
+  if (!TakeWord(word)) {
+    Refuse();
+  }
+}
+
+void Parser::ExpectSymbol(char symbol)
+{
+  if (!TakeSymbol(symbol)) {
+    Refuse();
+  }
+}
+
+void Parser::ExpectEnd()
+{
+  if (Next().kind != TokenKind::kEnd) {
+    Refuse();
+  }
+}
+
+QString Parser::TakeName()
+{
+  if (Next().kind != TokenKind::kWord) {
+    Refuse();
+  }
+  return tokens_[at_++].text;
+}
+
+QString Parser::ParseColumn()
+{
+  const QString first = TakeName();
+  if (!TakeSymbol('.')) {
+    return first;
+  }
+  if (!qualifier_.isEmpty() && qualifier_.compare(first, Qt::CaseInsensitive) != 0) {
+    StoreError::Raise(StoreError::kSyntax, first);
+  }
+  qualifier_ = first;
+  return TakeName();
+}
+
+QString Parser::ParseColumnInBrackets()
+{
+  ExpectSymbol('(');
+  const QString column = ParseColumn();
+  ExpectSymbol(')');
+  return column;
+}
+
+Operand Parser::ParseOperand()
+{
+  if (Next().kind == TokenKind::kText) {
+    return {tokens_[at_++].text, true};
+  }
+  return {ParseColumn(), false};
+}
+
+Expression Parser::ParseExpression()
+{
+  Expression expression{ParseOperand()};
+  while (TakeSymbol('&')) {
+    expression.push_back(ParseOperand());
+  }
+  return expression;
+}
+
+Item Parser::ParseItem()
+{
+  Item item;
+  const bool isCount = tokens_[at_ + 1].text == QLatin1Char('(') && TakeWord("Count");
+  if (isCount) {
+    item.counted = true;
+    item.expression = {{ParseColumnInBrackets(), false}};
+  } else {
+    item.expression = ParseExpression();
+  }
+  if (TakeWord("AS")) {
+    item.name = TakeName();
+  } else if (item.counted || item.expression.size() != 1 || item.expression.front().literal) {
+    Refuse();
+  } else {
+    item.name = item.expression.front().text;
+  }
+  return item;
+}
+
+Select Parser::ParseSelect()
+{
+  Select select;
+  ExpectWord("SELECT");
+  do {
+    select.items.push_back(ParseItem());
+  } while (TakeSymbol(','));
+  ExpectWord("FROM");
+  select.table = TakeName();
+  if (!qualifier_.isEmpty() && qualifier_.compare(select.table, Qt::CaseInsensitive) != 0) {
+    StoreError::Raise(StoreError::kSyntax, qualifier_);
+  }
+  qualifier_ = select.table;
+  if (TakeWord("WHERE")) {
+    ExpectWord("Not");
+    ExpectWord("IsNull");
+    select.notNull = ParseColumnInBrackets();
+  }
+  if (TakeWord("GROUP")) {
+    ExpectWord("BY");
+    select.group = ParseColumn();
+  }
+  if (TakeWord("ORDER")) {
+    ExpectWord("BY");
+    do {
+      select.order.push_back(ParseExpression());
+    } while (TakeSymbol(','));
+  }
+  ExpectEnd();
+  return select;
+}
+
+Criterion Parser::ParseCriterion()
+{
+  Criterion criterion;
+  criterion.column = ParseColumn();
+  ExpectSymbol('=');
+  if (Next().kind != TokenKind::kText) {
+    Refuse();
+  }
+  criterion.text = tokens_[at_++].text;
+  ExpectEnd();
+  return criterion;
+}
+
+QString QuoteText(QString text)
+{
+  text.replace(QLatin1Char('\''), QLatin1String("''"));
+  return QLatin1Char('\'') + text + QLatin1Char('\'');
+}
+
+QString TranslateColumn(const QString& column, const TableSchema& table)
+{
+  const ColumnSchema* found = table.FindColumn(column);
+  if (found == nullptr) {
+    StoreError::Raise(StoreError::kUnknownColumn, column);
+  }
+  return QuoteName(found->name);
+}
+
+}
+
+Select ParseSelect(const QString& sql)
+{
+  return Parser(sql).ParseSelect();
+}
+
+Criterion ParseCriterion(const QString& criterion)
+{
+  return Parser(criterion).ParseCriterion();
+}
+
+QString Translate(const Expression& expression, const TableSchema& table)
+{
+  if (expression.size() == 1 && !expression.front().literal) {
+    return TranslateColumn(expression.front().text, table);
+  }
+  QStringList joined;
+  for (const Operand& operand : expression) {
+    joined.append(operand.literal ? QuoteText(operand.text)
+                                  : QStringLiteral("coalesce(%1,'')").arg(TranslateColumn(operand.text, table)));
+  }
+  return joined.join(QLatin1String("||"));
+}
+
+}

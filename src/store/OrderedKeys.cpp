@@ -1,0 +1,169 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "store/OrderedKeys.h"
+
+#include "platform/TextOrder.h"
+#include "store/Statement.h"
+
+#include <algorithm>
+#include <numeric>
+#include <string>
+#include <unordered_map>
+
+namespace {
+
+struct TextHash
+{
+  using is_transparent = void;
+  std::size_t operator()(std::string_view text) const { return std::hash<std::string_view>{}(text); }
+};
+
+// The different values of one ordering column, each numbered as it first appears.
+class Values
+{
+public:
+  explicit Values(ColumnType type) : type_(type) { values_.push_back({}); }
+
+  std::uint32_t NumberOf(const Statement& statement, int column)
+  {
+    if (statement.IsNull(column)) {
+      return 0;
+    }
+    return statement.IsNumber(column) ? NumberOfNumber(statement, column) : NumberOfText(statement.Bytes(column));
+  }
+
+  [[nodiscard]] std::size_t Size() const { return values_.size(); }
+
+  // By number of value: its place in the order, the same for values that are equal.
+  [[nodiscard]] std::vector<std::uint32_t> Ranks() const
+  {
+    std::vector<std::uint32_t> sorted(values_.size());
+    std::iota(sorted.begin(), sorted.end(), 0U);
+    std::sort(sorted.begin(), sorted.end(), [this](auto a, auto b) { return values_[a] < values_[b]; });
+    std::vector<std::uint32_t> ranks(values_.size());
+    for (std::size_t i = 1; i < sorted.size(); ++i) {
+      const bool above = values_[sorted[i - 1]] < values_[sorted[i]];
+      ranks[sorted[i]] = ranks[sorted[i - 1]] + (above ? 1 : 0);
+    }
+    return ranks;
+  }
+
+  [[nodiscard]] std::vector<QVariant> Travelling() const
+  {
+    std::vector<QVariant> travelling(values_.size());
+    for (const auto& [text, number] : texts_) {
+      travelling[number] = ValueFromText(QString::fromStdString(text), type_);
+    }
+    for (const auto& [value, number] : numbers_) {
+      travelling[number] = values_[number].travelling;
+    }
+    return travelling;
+  }
+
+private:
+  enum class Kind
+  {
+    kNull,
+    kNumber,
+    kText,
+  };
+
+  struct Value
+  {
+    Kind kind = Kind::kNull;
+    double number = 0;
+    std::string text;
+    QVariant travelling;
+
+    bool operator<(const Value& other) const
+    {
+      if (kind != other.kind) {
+        return kind < other.kind;
+      }
+      return kind == Kind::kText ? text < other.text : number < other.number;
+    }
+  };
+
+  std::uint32_t NumberOfText(std::string_view text)
+  {
+    const auto known = texts_.find(text);
+    if (known != texts_.end()) {
+      return known->second;
+    }
+    const auto number = static_cast<std::uint32_t>(values_.size());
+    texts_.emplace(std::string(text), number);
+    values_.push_back({Kind::kText, 0, TextOrder::Key(text), {}});
+    return number;
+  }
+
+  std::uint32_t NumberOfNumber(const Statement& statement, int column)
+  {
+    const auto [known, isNew] =
+        numbers_.emplace(statement.Number(column), static_cast<std::uint32_t>(values_.size()));
+    if (isNew) {
+      values_.push_back({Kind::kNumber, known->first, {}, statement.Value(column, type_)});
+    }
+    return known->second;
+  }
+
+  ColumnType type_;
+  std::vector<Value> values_;
+  std::unordered_map<std::string, std::uint32_t, TextHash, std::equal_to<>> texts_;
+  std::unordered_map<double, std::uint32_t> numbers_;
+};
+
+// Stable, so that sorting by the last column first leaves rows in the order of all.
+void SortBy(const std::vector<std::uint32_t>& rankOfRow, std::size_t rankCount, std::vector<std::uint32_t>& rows)
+{
+  std::vector<std::uint32_t> start(rankCount + 1);
+  for (const std::uint32_t row : rows) {
+    ++start[rankOfRow[row] + 1];
+  }
+  std::partial_sum(start.begin(), start.end(), start.begin());
+  std::vector<std::uint32_t> sorted(rows.size());
+  for (const std::uint32_t row : rows) {
+    sorted[start[rankOfRow[row]]++] = row;
+  }
+  rows = std::move(sorted);
+}
+
+template <typename T>
+std::vector<T> Arranged(const std::vector<T>& items, const std::vector<std::uint32_t>& rows)
+{
+  std::vector<T> arranged;
+  arranged.reserve(items.size());
+  for (const std::uint32_t row : rows) {
+    arranged.push_back(items[row]);
+  }
+  return arranged;
+}
+
+}
+
+OrderedKeys ReadInOrder(Connection& connection, const QString& sql, const std::vector<ColumnType>& types)
+{
+  std::vector<qint64> keys;
+  std::vector<Values> values(types.begin(), types.end());
+  std::vector<std::vector<std::uint32_t>> which(types.size());
+  Statement statement(connection, sql);
+  while (statement.Step()) {
+    keys.push_back(statement.Integer(0));
+    for (std::size_t column = 0; column < types.size(); ++column) {
+      which[column].push_back(values[column].NumberOf(statement, static_cast<int>(column) + 1));
+    }
+  }
+
+  std::vector<std::uint32_t> rows(keys.size());
+  std::iota(rows.begin(), rows.end(), 0U);
+  for (std::size_t column = types.size(); column-- > 0;) {
+    SortBy(Arranged(values[column].Ranks(), which[column]), values[column].Size(), rows);
+  }
+
+  OrderedKeys ordered;
+  ordered.keys = Arranged(keys, rows);
+  for (std::size_t column = 0; column < types.size(); ++column) {
+    ordered.kept.push_back({Arranged(which[column], rows), values[column].Travelling()});
+  }
+  return ordered;
+}

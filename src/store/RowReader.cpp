@@ -1,0 +1,139 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "store/RowReader.h"
+
+#include "store/Connection.h"
+#include "store/Statement.h"
+
+#include <sqlite3.h>
+
+#include <algorithm>
+
+namespace {
+
+constexpr std::size_t kLargestBlock = 256;
+
+// Holds the file's read lock over several statements.
+class ReadLock
+{
+public:
+  explicit ReadLock(Connection& connection) : connection_(connection)
+  {
+    if (sqlite3_get_autocommit(connection_.Handle()) != 0) {
+      connection_.Execute("BEGIN");
+      held_ = true;
+    }
+  }
+  ~ReadLock()
+  {
+    if (held_) {
+      sqlite3_exec(connection_.Handle(), "ROLLBACK", nullptr, nullptr, nullptr);
+    }
+  }
+  ReadLock(const ReadLock&) = delete;
+  ReadLock& operator=(const ReadLock&) = delete;
+
+private:
+  Connection& connection_;
+  bool held_ = false;
+};
+
+}
+
+RowReader::RowReader(Connection& connection, const TableSchema& table, std::vector<QString> expressions,
+                     std::vector<ColumnType> types)
+    : connection_(connection),
+      table_(QuoteName(table.name)),
+      key_(QuoteName(table.key)),
+      expressions_(std::move(expressions)),
+      types_(std::move(types)),
+      place_(expressions_.size(), -1)
+{
+}
+
+bool RowReader::Exists(std::span<const qint64> keys)
+{
+  return Find(keys).exists;
+}
+
+const QVariant* RowReader::Value(std::span<const qint64> keys, int column)
+{
+  if (place_[static_cast<std::size_t>(column)] < 0) {
+    Want(column);
+  }
+  const Row& row = Find(keys);
+  const auto place = static_cast<std::size_t>(place_[static_cast<std::size_t>(column)]);
+  return row.exists ? &row.values[place] : nullptr;
+}
+
+void RowReader::Want(int column)
+{
+  place_[static_cast<std::size_t>(column)] = static_cast<int>(wanted_.size());
+  wanted_.push_back(column);
+  block_.clear();
+}
+
+const RowReader::Row& RowReader::Find(std::span<const qint64> keys)
+{
+  const long long stamp = connection_.ChangeStamp();
+  if (stamp != stamp_) {
+    block_.clear();
+    stamp_ = stamp;
+  }
+  if (const Row* row = FindInBlock(keys.front())) {
+    return *row;
+  }
+  const bool inSequence = keys.front() == expectedNext_;
+  nextBlockSize_ = inSequence ? std::min(nextBlockSize_ * 2, kLargestBlock) : 1;
+  const std::size_t size = std::min(nextBlockSize_, keys.size());
+  expectedNext_ = size < keys.size() ? keys[size] : 0;
+  Read(keys.first(size));
+  lastFound_ = 0;
+  return block_.front();
+}
+
+RowReader::Row* RowReader::FindInBlock(qint64 key)
+{
+  for (const std::size_t candidate : {lastFound_, lastFound_ + 1}) {
+    if (candidate < block_.size() && block_[candidate].key == key) {
+      lastFound_ = candidate;
+      return &block_[candidate];
+    }
+  }
+  const auto found = std::find_if(block_.begin(), block_.end(), [&](const Row& row) { return row.key == key; });
+  if (found == block_.end()) {
+    return nullptr;
+  }
+  lastFound_ = static_cast<std::size_t>(found - block_.begin());
+  return &*found;
+}
+
+QString RowReader::Sql() const
+{
+  QStringList columns;
+  for (const int column : wanted_) {
+    columns.append(expressions_[static_cast<std::size_t>(column)]);
+  }
+  const QString list = columns.isEmpty() ? QStringLiteral("1") : columns.join(QLatin1Char(','));
+  return QStringLiteral("SELECT %1 FROM %2 WHERE %3=?").arg(list, table_, key_);
+}
+
+void RowReader::Read(std::span<const qint64> keys)
+{
+  const ReadLock lock(connection_);
+  Statement statement(connection_, Sql());
+  block_.resize(keys.size());
+  for (std::size_t i = 0; i < keys.size(); ++i) {
+    Row& row = block_[i];
+    row.key = keys[i];
+    statement.Bind(1, QVariant::fromValue<qlonglong>(keys[i]));
+    row.exists = statement.Step();
+    row.values.resize(wanted_.size());
+    for (std::size_t place = 0; row.exists && place < wanted_.size(); ++place) {
+      const ColumnType type = types_[static_cast<std::size_t>(wanted_[place])];
+      row.values[place] = statement.Value(static_cast<int>(place), type);
+    }
+    statement.Restart();
+  }
+}

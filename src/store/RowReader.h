@@ -1,0 +1,55 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include "store/Schema.h"
+
+#include <QVariant>
+
+#include <span>
+#include <vector>
+
+class Connection;
+
+// Reads rows by key, live: what has changed in the file is seen. Rows asked for one
+// after the other come in growing blocks, and only the columns in use are read.
+class RowReader
+{
+public:
+  // `expressions` are the columns in SQLite's own words, `types` what they travel as.
+  RowReader(Connection& connection, const TableSchema& table, std::vector<QString> expressions,
+            std::vector<ColumnType> types);
+
+  // The row of `keys.front()`; the rest of `keys` is what may be asked for next.
+  // Null if the row is gone.
+  [[nodiscard]] bool Exists(std::span<const qint64> keys);
+  [[nodiscard]] const QVariant* Value(std::span<const qint64> keys, int column);
+
+private:
+  struct Row
+  {
+    qint64 key = 0;
+    bool exists = false;
+    std::vector<QVariant> values;  // of the wanted columns
+  };
+
+  const Row& Find(std::span<const qint64> keys);
+  void Read(std::span<const qint64> keys);
+  [[nodiscard]] Row* FindInBlock(qint64 key);
+  [[nodiscard]] QString Sql() const;
+  void Want(int column);
+
+  Connection& connection_;
+  QString table_;
+  QString key_;
+  std::vector<QString> expressions_;
+  std::vector<ColumnType> types_;
+  std::vector<int> wanted_;
+  std::vector<int> place_;  // of a column among the wanted ones, -1 if it is not
+  std::vector<Row> block_;
+  std::size_t lastFound_ = 0;
+  qint64 expectedNext_ = 0;
+  std::size_t nextBlockSize_ = 1;
+  long long stamp_ = -1;
+};

@@ -1,0 +1,70 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "store/Snapshot.h"
+
+#include "store/Statement.h"
+
+#include <numeric>
+
+namespace {
+
+QString TranslateItem(const Dialect::Item& item, const TableSchema& table)
+{
+  const QString expression = Dialect::Translate(item.expression, table);
+  return item.counted ? QStringLiteral("count(%1)").arg(expression) : expression;
+}
+
+QString TranslateGrouped(const Dialect::Select& select, const TableSchema& table)
+{
+  QStringList items;
+  for (const Dialect::Item& item : select.items) {
+    items.append(TranslateItem(item, table));
+  }
+  QString sql = QStringLiteral("SELECT %1 FROM %2").arg(items.join(QLatin1Char(',')), QuoteName(table.name));
+  if (select.notNull) {
+    sql += QStringLiteral(" WHERE %1 IS NOT NULL").arg(Dialect::Translate({{*select.notNull, false}}, table));
+  }
+  const QString group = Dialect::Translate({{*select.group, false}}, table) + QLatin1String(" COLLATE TEXTORDER");
+  return sql + QStringLiteral(" GROUP BY %1 ORDER BY %1").arg(group);
+}
+
+}
+
+Snapshot::Snapshot(const std::shared_ptr<Connection>& connection, const Dialect::Select& select,
+                   const TableSchema& table)
+    : ListCursor(connection, table, [&] {
+        std::vector<Column> columns;
+        for (const Dialect::Item& item : select.items) {
+          columns.push_back({item.name, item.counted ? ColumnType::kInteger : ColumnType::kText, {}});
+        }
+        return columns;
+      }())
+{
+  Statement statement(*connection, TranslateGrouped(select, table));
+  while (statement.Step()) {
+    std::vector<QVariant> row;
+    for (std::size_t column = 0; column < Columns().size(); ++column) {
+      row.push_back(statement.Value(static_cast<int>(column), Columns()[column].type));
+    }
+    rows_.push_back(std::move(row));
+  }
+  std::vector<qint64> positions(rows_.size());
+  std::iota(positions.begin(), positions.end(), 0);
+  Begin(std::move(positions));
+}
+
+bool Snapshot::IsThere(qsizetype)
+{
+  return true;
+}
+
+QVariant Snapshot::ReadValue(int column)
+{
+  return rows_[static_cast<std::size_t>(Ahead().front())][static_cast<std::size_t>(column)];
+}
+
+bool Snapshot::IsUpdatable() const
+{
+  return false;
+}
