@@ -1,0 +1,188 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "controls/Form.h"
+
+#include "controls/Forms.h"
+#include "controls/Frame.h"
+#include "platform/Command.h"
+#include "platform/Twips.h"
+
+#include <QCloseEvent>
+#include <QEventLoop>
+#include <QPainter>
+
+#include <algorithm>
+
+namespace {
+
+// The place of the form's own picture: the right third, in from the edges by the margin.
+QRect PicturePlace(const QSize& form, const QSize& picture)
+{
+  constexpr int kMargin = 32;
+  const QSize room(form.width() / 3 - kMargin, form.height() - 2 * kMargin);
+  const QSize size = picture.scaled(room, Qt::KeepAspectRatio);
+  return {QPoint(form.width() - kMargin - size.width(), form.height() - kMargin - size.height()), size};
+}
+
+bool IsDesigned(const QWidget& widget)
+{
+  return !widget.objectName().isEmpty() && !widget.objectName().startsWith(QLatin1String("qt_"));
+}
+
+}
+
+Form::Form(const QString& name, Kind kind) : kind_(kind)
+{
+  setObjectName(name);
+}
+
+Form::~Form()
+{
+  Forms::Forget(*this);
+}
+
+void Form::Load()
+{
+  const QList<QWidget*> children = findChildren<QWidget*>();
+  std::copy_if(children.begin(), children.end(), std::back_inserter(controls_),
+               [](const QWidget* child) { return IsDesigned(*child); });
+  Form_Load();
+  loaded_ = true;
+}
+
+void Form::Open(Qt::WindowModality modality)
+{
+  if (kind_ == Kind::kPage) {
+    Frame::Current().PlacePage(*this);
+    return;
+  }
+  setWindowModality(modality);
+  show();
+  raise();
+  activateWindow();
+}
+
+void Form::Show()
+{
+  Open(Qt::NonModal);
+}
+
+void Form::ShowModal()
+{
+  const Command::Pause pause;
+  hide();
+  Open(Qt::ApplicationModal);
+  QEventLoop loop;
+  modalLoop_ = &loop;
+  loop.exec();
+}
+
+void Form::ShowTopmost()
+{
+  setWindowFlag(Qt::WindowStaysOnTopHint);
+  Open(Qt::NonModal);
+}
+
+void Form::Hide()
+{
+  hide();
+}
+
+bool Form::Unload()
+{
+  bool cancel = false;
+  Form_QueryUnload(cancel);
+  if (cancel) {
+    return false;
+  }
+  Form_Unload();
+  Forms::Forget(*this);
+  hide();
+  deleteLater();
+  return true;
+}
+
+int Form::ScaleWidth() const
+{
+  return TwipsFromPixels(width());
+}
+
+int Form::ScaleHeight() const
+{
+  return TwipsFromPixels(height());
+}
+
+void Form::SetBackColor(const QColor& color)
+{
+  backColor_ = color;
+  update();
+}
+
+void Form::SetPicture(const QPixmap& picture)
+{
+  picture_ = picture;
+  update();
+}
+
+QWidget* Form::Control(const QString& name) const
+{
+  return findChild<QWidget*>(name);
+}
+
+Form::Elements Form::ArrayNamed(const QString& name) const
+{
+  std::vector<std::pair<int, QWidget*>> found;
+  const QString prefix = name + QLatin1Char('_');
+  for (QWidget* control : controls_) {
+    bool isNumber = false;
+    const QString controlName = control->objectName();
+    const int index = controlName.mid(prefix.size()).toInt(&isNumber);
+    if (isNumber && controlName.startsWith(prefix)) {
+      found.emplace_back(index, control);
+    }
+  }
+  Elements elements;
+  if (found.empty()) {
+    return elements;
+  }
+  std::sort(found.begin(), found.end());
+  elements.lower = found.front().first;
+  elements.widgets.resize(static_cast<std::size_t>(found.back().first - elements.lower + 1));
+  for (const auto& [index, control] : found) {
+    elements.widgets[static_cast<std::size_t>(index - elements.lower)] = control;
+  }
+  return elements;
+}
+
+void Form::closeEvent(QCloseEvent* event)
+{
+  event->ignore();
+  Form_CloseBox();
+}
+
+void Form::hideEvent(QHideEvent* event)
+{
+  QWidget::hideEvent(event);
+  if (modalLoop_ != nullptr && !event->spontaneous()) {
+    std::exchange(modalLoop_, nullptr)->quit();
+  }
+}
+
+void Form::paintEvent(QPaintEvent*)
+{
+  QPainter painter(this);
+  painter.fillRect(rect(), backColor_);
+  if (!picture_.isNull()) {
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    painter.drawPixmap(PicturePlace(size(), picture_.size()), picture_);
+  }
+}
+
+void Form::resizeEvent(QResizeEvent* event)
+{
+  QWidget::resizeEvent(event);
+  if (loaded_) {
+    Form_Resize();
+  }
+}

@@ -1,0 +1,51 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include <QListView>
+
+class LinesModel;
+
+// A list of lines, of which one may be selected. It holds 100,000 lines with ease.
+class ListBox : public QListView
+{
+  Q_OBJECT
+  Q_PROPERTY(bool Sorted READ Sorted WRITE SetSorted)
+
+public:
+  explicit ListBox(QWidget* parent = nullptr);
+
+  [[nodiscard]] int ListCount() const;
+  [[nodiscard]] QString List(int index) const;  // empty for an index outside
+  void SetList(int index, const QString& line);
+
+  // -1 while no line is selected. A new index is a click.
+  [[nodiscard]] int ListIndex() const;
+  void SetListIndex(int index);
+
+  // The selected line, or the empty text.
+  [[nodiscard]] QString Text() const;
+
+  void AddItem(const QString& line);
+  void AddItems(const QStringList& lines);
+  void RemoveItem(int index);
+  void Clear();
+
+  // A sorted list keeps its lines in text order, without regard to case.
+  [[nodiscard]] bool Sorted() const { return sorted_; }
+  void SetSorted(bool sorted) { sorted_ = sorted; }
+
+Q_SIGNALS:
+  // A line was chosen, by mouse, by keyboard or by SetListIndex; also the same again by mouse.
+  void Click();
+
+protected:
+  void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
+  void mousePressEvent(QMouseEvent* event) override;
+
+private:
+  LinesModel* lines_;
+  bool sorted_ = false;
+  bool choosing_ = true;
+};

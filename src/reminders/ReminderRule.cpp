@@ -1,0 +1,60 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "reminders/ReminderRule.h"
+
+#include "store/Recordset.h"
+
+namespace {
+
+QString Prefix(ReminderKind kind)
+{
+  switch (kind) {
+    case ReminderKind::kBirthday:
+      return QStringLiteral("Birth");
+    case ReminderKind::kAnniversary:
+      return QStringLiteral("Ann");
+    case ReminderKind::kEvent:
+      break;
+  }
+  return QStringLiteral("Cal");
+}
+
+}
+
+bool IsTrue(const QVariant& value)
+{
+  return !value.isNull() && value.toBool();
+}
+
+bool IsFalse(const QVariant& value)
+{
+  return !value.isNull() && !value.toBool();
+}
+
+bool ReminderRule::HoldsOnce(int daysToGo) const
+{
+  return IsTrue(on) && IsTrue(once) && length == daysToGo;
+}
+
+bool ReminderRule::HoldsMany(int daysToGo) const
+{
+  return IsTrue(on) && IsTrue(many) && length && daysToGo >= 0 && daysToGo <= *length;
+}
+
+ReminderRule ReadRule(Recordset& options, ReminderKind kind)
+{
+  const QString prefix = Prefix(kind);
+  const QVariant length = options.Fields(prefix + QLatin1String("Length")).Value();
+  return {options.Fields(prefix + QLatin1String("Audio")).Value(),
+          options.Fields(prefix + QLatin1String("Once")).Value(),
+          options.Fields(prefix + QLatin1String("Many")).Value(),
+          length.isNull() ? std::nullopt : std::optional<int>(length.toInt())};
+}
+
+bool RemindersActive(Recordset& options)
+{
+  return !(IsFalse(options.Fields(QStringLiteral("BirthAudio")).Value()) &&
+           IsFalse(options.Fields(QStringLiteral("AnnAudio")).Value()) &&
+           IsFalse(options.Fields(QStringLiteral("CalAudio")).Value()));
+}

@@ -1,0 +1,43 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include <QVariant>
+
+#include <optional>
+
+class Recordset;
+
+// The kinds of occasion that are reminded of, in the order of their lines and clips.
+enum class ReminderKind
+{
+  kBirthday,
+  kAnniversary,
+  kEvent,
+};
+
+// When to remind of one kind, as the settings say.
+struct ReminderRule
+{
+  QVariant on;
+  QVariant once;
+  QVariant many;
+  std::optional<int> length;
+
+  // The day that lies exactly `length` days before the occasion.
+  [[nodiscard]] bool HoldsOnce(int daysToGo) const;
+  // Every day from `length` days before up to the occasion's own.
+  [[nodiscard]] bool HoldsMany(int daysToGo) const;
+  [[nodiscard]] bool Holds(int daysToGo) const { return HoldsOnce(daysToGo) || HoldsMany(daysToGo); }
+};
+
+// The rule of a kind, from the row of Options.
+[[nodiscard]] ReminderRule ReadRule(Recordset& options, ReminderKind kind);
+
+// False if all three kinds are switched off.
+[[nodiscard]] bool RemindersActive(Recordset& options);
+
+// A YesNo compared with True or False; Null is neither.
+[[nodiscard]] bool IsTrue(const QVariant& value);
+[[nodiscard]] bool IsFalse(const QVariant& value);

@@ -1,0 +1,163 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "reminders/frmTextNotice.h"
+
+#include "controls/Frame.h"
+#include "looks/modMouseMove.h"
+#include "looks/modThemes.h"
+#include "looks/modToolTips.h"
+#include "platform/App.h"
+#include "platform/Attempt.h"
+#include "platform/Clock.h"
+#include "platform/LoadPicture.h"
+#include "platform/MediaDevice.h"
+#include "platform/Screen.h"
+#include "platform/Twips.h"
+#include "reminders/NoticeDetails.h"
+#include "reminders/NoticeTexts.h"
+#include "reminders/modTextNotices.h"
+#include "store/DBEngine.h"
+#include "ui_frmTextNotice.h"
+
+namespace {
+
+constexpr int kWidthWithDetails = 7740;
+constexpr int kMessageFontSize = 10;
+
+std::unique_ptr<Recordset> OpenOptions(Database& database)
+{
+  return database.OpenRecordset(QStringLiteral("Options"), Database::kTable);
+}
+
+}
+
+frmTextNotice::frmTextNotice()
+    : Form(QStringLiteral("frmTextNotice"), Kind::kWindow), ui_(std::make_unique<Ui::frmTextNotice>())
+{
+  ui_->setupUi(this);
+  setFixedSize(size());
+  setWindowFlags(Qt::Window | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint |
+                 Qt::CustomizeWindowHint);
+  setWindowIcon(QIcon(App::File(QStringLiteral("/animp.ico"))));
+  lblOptions_.Collect(*this, QStringLiteral("lblOptions"));
+  imgNote_.Collect(*this, QStringLiteral("imgNote"));
+  for (const auto& [index, note] : imgNote_.All()) {
+    note->SetPicture(LoadPicture(QStringLiteral(":/reminders/note.svg")));
+  }
+  ConnectControls();
+}
+
+frmTextNotice::~frmTextNotice() = default;
+
+void frmTextNotice::ConnectControls()
+{
+  connect(ui_->lstNotices, &ListBox::Click, this, &frmTextNotice::lstNotices_Click);
+  connect(&lblOptions_, &ControlArraySignals::Click, this, &frmTextNotice::lblOptions_Click);
+}
+
+void frmTextNotice::Form_Load()
+{
+  modToolTips::SetTips(*this);
+  modThemes::ApplyTheme();
+  modMouseMove::Watch(*this);
+}
+
+void frmTextNotice::Form_Unload()
+{
+  MediaDevice::Close();
+}
+
+void frmTextNotice::Form_CloseBox()
+{
+  lblOptions_Click(0);
+}
+
+void frmTextNotice::SetLines(const std::vector<ReminderKind>& kinds)
+{
+  ui_->lstNotices->Clear();
+  for (const ReminderKind kind : kinds) {
+    ui_->lstNotices->AddItem(NoticeTexts::Line(kind));
+  }
+}
+
+void frmTextNotice::SetFirstCommand(const QString& caption, const QString& tip)
+{
+  lblOptions_[0].setText(caption);
+  lblOptions_[0].setToolTip(modToolTips::TipsOff() ? QString() : tip);
+}
+
+void frmTextNotice::ShowFurtherCommands(bool visible)
+{
+  lblOptions_[1].setVisible(visible);
+  lblOptions_[2].setVisible(visible);
+}
+
+void frmTextNotice::ShowMessage(const QString& message)
+{
+  QFont font = ui_->lblNotice->font();
+  font.setPointSize(kMessageFontSize);
+  ui_->lblNotice->setFont(font);
+  ui_->lblNotice->setText(message);
+  ui_->lstNotices->hide();
+  ShowFurtherCommands(false);
+}
+
+void frmTextNotice::Centre()
+{
+  move(PixelsFromTwips(Screen::CentredLeft(ScaleWidth())), PixelsFromTwips(Screen::Height() / 4));
+}
+
+void frmTextNotice::lstNotices_Click()
+{
+  Attempt([this] {
+    const QString line = ui_->lstNotices->Text();
+    for (const ReminderKind kind : {ReminderKind::kBirthday, ReminderKind::kAnniversary, ReminderKind::kEvent}) {
+      if (line == NoticeTexts::Line(kind)) {
+        ShowDetails(kind);
+      }
+    }
+  });
+}
+
+void frmTextNotice::ShowDetails(ReminderKind kind)
+{
+  Database database = DBEngine::OpenDatabase();
+  const auto options = OpenOptions(database);
+  setFixedWidth(PixelsFromTwips(kWidthWithDetails));
+  ui_->lstMoreInfo->Clear();
+  if (!RemindersActive(*options)) {
+    return;
+  }
+  const NoticeDetails details = NoticeDetails::Read(database, kind, ReadRule(*options, kind), Clock::Today());
+  if (!details.entries.isEmpty()) {
+    ui_->lblExplain->setText(details.sentence);
+    ui_->lstMoreInfo->AddItems(details.entries);
+  }
+}
+
+void frmTextNotice::lblOptions_Click(int index)
+{
+  modTextNotices::ClipIndex = 0;
+  Unload();
+  if (index == 0 && modTextNotices::ManualCheck) {
+    modTextNotices::ManualCheck = false;
+  } else if (index == 0) {
+    BringFrameBack();
+  } else if (index == 1) {
+    Frame::Current().SetState(WindowState::kMinimised);
+  } else {
+    Frame::Current().Unload();
+  }
+}
+
+void frmTextNotice::BringFrameBack()
+{
+  Database database = DBEngine::OpenDatabase();
+  const QVariant maximised = OpenOptions(database)->Fields(QStringLiteral("WindowState")).Value();
+  if (IsFalse(maximised)) {
+    Frame::Current().SetState(WindowState::kNormal);
+  } else if (IsTrue(maximised)) {
+    Frame::Current().SetState(WindowState::kMaximised);
+  }
+}

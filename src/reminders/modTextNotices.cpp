@@ -1,0 +1,139 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "reminders/modTextNotices.h"
+
+#include "looks/modToolTips.h"
+#include "platform/App.h"
+#include "platform/Attempt.h"
+#include "platform/Clock.h"
+#include "reminders/Clips.h"
+#include "reminders/DaysToGo.h"
+#include "reminders/NoticesWindow.h"
+#include "reminders/ReminderOutcome.h"
+#include "reminders/ReminderRule.h"
+#include "store/DBEngine.h"
+#include "store/Queries.h"
+
+namespace modTextNotices {
+namespace {
+
+struct Scan
+{
+  ReminderKind kind;
+  const QString& query;
+  const char* month;
+  const char* day;
+  const char* clip;
+  bool& hit;
+};
+
+bool FindHit(Recordset& rows, const Scan& scan, const ReminderRule& rule)
+{
+  DaysToGo days(Clock::Today());
+  const Field& month = rows.Fields(QLatin1String(scan.month));
+  const Field& day = rows.Fields(QLatin1String(scan.day));
+  for (; !rows.Eof(); rows.MoveNext()) {
+    const std::optional<int> daysToGo = scan.kind == ReminderKind::kEvent ? days.ToEvent(month.Value(), day.Value())
+                                                                          : days.ToYearly(month.Value(), day.Value());
+    if (daysToGo && rule.Holds(*daysToGo)) {
+      return true;
+    }
+  }
+  return false;
+}
+
+void QueueClip(int place, const char* clip)
+{
+  const QString folder = Clips::GetShortName(App::Path());
+  ClipFiles.resize(place + 1);
+  ClipFiles[place] = folder + QLatin1String(clip);
+}
+
+void LookForHits(Database& database, Recordset& options)
+{
+  BirthdayHit = AnniversaryHit = CalendarHit = false;
+  const Scan scans[] = {
+      {ReminderKind::kBirthday, Queries::kCheckBirthdays, "BirthMonth", "BirthDate", "/notices/hapbirth.wav",
+       BirthdayHit},
+      {ReminderKind::kAnniversary, Queries::kCheckAnniversaries, "AnnMonth", "AnnDate", "/notices/wmfade2.wav",
+       AnniversaryHit},
+      {ReminderKind::kEvent, Queries::kCheckEvents, "Month", "Date", "/notices/jad0044.wav", CalendarHit},
+  };
+  int clipCount = 0;
+  for (const Scan& scan : scans) {
+    const auto rows = database.OpenRecordset(scan.query, Database::kDynaset);
+    if (FindHit(*rows, scan, ReadRule(options, scan.kind))) {
+      QueueClip(clipCount++, scan.clip);
+      scan.hit = true;
+    }
+  }
+}
+
+ReminderFacts ReadFacts(Recordset& options, bool manual)
+{
+  const auto setting = [&](const char* column) {
+    return IsTrue(options.Fields(QLatin1String(column)).Value());
+  };
+  ReminderFacts facts;
+  facts.active = RemindersActive(options);
+  facts.manual = manual;
+  facts.hit = BirthdayHit || AnniversaryHit || CalendarHit;
+  facts.textMessage = setting("TextMessage");
+  facts.audioMessage = setting("AudioMessage");
+  facts.reminderOnStart = setting("ReminderOnStart");
+  return facts;
+}
+
+void ReadTipFlag(Recordset& options)
+{
+  const QVariant tipsOff = options.Fields(QStringLiteral("ToolTips")).Value();
+  if (tipsOff.isNull()) {
+    RaiseError(ErrorNumber::kInvalidUseOfNull);
+  }
+  modToolTips::SetTipsOff(tipsOff.toBool());
+}
+
+// The store is let go of before a window waits for its user.
+ReminderFacts LookUp(bool manual)
+{
+  Database database = DBEngine::OpenDatabase();
+  const auto options = database.OpenRecordset(QStringLiteral("Options"), Database::kTable);
+  ReadTipFlag(*options);
+  if (RemindersActive(*options)) {
+    LookForHits(database, *options);
+  }
+  return ReadFacts(*options, manual);
+}
+
+void Tell(const ReminderFacts& facts)
+{
+  switch (DecideOutcome(facts)) {
+    case ReminderOutcome::kNothing:
+      break;
+    case ReminderOutcome::kNotActive:
+      NoticesWindow::TellNotActive();
+      break;
+    case ReminderOutcome::kNothingComingUp:
+      NoticesWindow::TellNothingComingUp();
+      break;
+    case ReminderOutcome::kManualNotices:
+      NoticesWindow::ShowManualNotices(facts.audioMessage);
+      break;
+    case ReminderOutcome::kStartUpNotices:
+      NoticesWindow::ShowStartUpNotices(facts.audioMessage);
+      break;
+    case ReminderOutcome::kClipsOnly:
+      Clips::PlayNextClip();
+      break;
+  }
+}
+
+}
+
+void CheckReminders(bool manual)
+{
+  Attempt([&] { Tell(LookUp(manual)); });
+}
+
+}

@@ -1,0 +1,28 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "shell/StartUp.h"
+
+#include "controls/Forms.h"
+#include "reminders/frmTextNotice.h"
+#include "shell/frmIntro.h"
+#include "shell/mdiQuillmark.h"
+
+void RegisterForms()
+{
+  Forms::Register(QStringLiteral("frmIntro"), [] { return new frmIntro; });
+  Forms::Register(QStringLiteral("frmTextNotice"), [] { return new frmTextNotice; });
+}
+
+void StartUp(mdiQuillmark& frame)
+{
+  frame.Initialise();
+  frame.Load();
+  if (frame.HasEnded()) {
+    return;
+  }
+  Forms::Load(QStringLiteral("frmIntro")).Show();
+  if (!frame.isVisible()) {
+    frame.show();
+  }
+}

@@ -1,0 +1,82 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include "controls/Frame.h"
+
+#include <QMainWindow>
+#include <QTimer>
+
+#include <array>
+#include <memory>
+
+namespace Ui {
+class mdiQuillmark;
+}
+class Database;
+class QAction;
+class Recordset;
+
+// The main frame: the window with the menu, inside which one page is shown at a time.
+// It lives from the program's start to its end.
+class mdiQuillmark : public QMainWindow, public Frame
+{
+  Q_OBJECT
+
+public:
+  mdiQuillmark();
+  ~mdiQuillmark() override;
+
+  // Before the load: looks for reminders, if the year is one that the program runs in.
+  void Initialise();
+
+  // Runs the guards and restores what the settings say. Does nothing if it is loaded.
+  void Load();
+
+  // True once the frame is unloaded, by its user or by a guard.
+  [[nodiscard]] bool HasEnded() const { return ended_; }
+
+  [[nodiscard]] WindowState State() const override;
+  void SetState(WindowState state) override;
+  bool Unload() override;
+  void PlacePage(Form& page) override;
+  void OpenPage(const QString& name) override;
+  [[nodiscard]] bool TimerEnabled() const override;
+  void SetTimerEnabled(bool enabled) override;
+
+protected:
+  void closeEvent(QCloseEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+
+private Q_SLOTS:
+  void mnuLists_Click(int index);
+  void mnuToolTips_Click(int index);
+  void mnuTheme_Click(int index);
+  void mnuAnn_Click();
+
+private:
+  struct Store;
+
+  void CollectMenu();
+  void ConnectControls();
+  void ConnectForm(QAction* action, const char* form, bool isPage);
+  void EnableMenu();
+  bool PassGuards();
+  void WarnOfResolution() const;
+  void RestoreState();
+  void Centre();
+  void MarkTheme(int theme);
+  void MarkTips();
+  bool QueryUnload();
+  void WriteState() const;
+
+  std::unique_ptr<Ui::mdiQuillmark> ui_;
+  std::unique_ptr<Store> store_;
+  std::array<QAction*, 3> mnuLists_{};
+  std::array<QAction*, 2> mnuToolTips_{};
+  std::array<QAction*, 6> mnuTheme_{};
+  QTimer tmrTimer_;
+  bool loaded_ = false;
+  bool ended_ = false;
+};
