@@ -2,7 +2,8 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 
 # Lays a program's folder: FOLDER from the PROGRAM, what was MADE and the ASSETS. The
-# household's own files (database, pictures, texts) are laid only where they are missing.
+# household's own files (database, pictures, texts) are laid only where they are missing;
+# a new database is filled with the HOUSEHOLD, if one is given.
 
 function(lay_if_missing source target)
   if(NOT EXISTS "${FOLDER}/${target}")
@@ -24,7 +25,13 @@ foreach(name animp.ico hand.cur notices/hapbirth.wav notices/wmfade2.wav notices
   file(COPY_FILE "${MADE}/${name}" "${FOLDER}/${name}" ONLY_IF_DIFFERENT)
 endforeach()
 
-lay_if_missing("${MADE}/quillmark2002.mdb" quillmark2002.mdb)
+if(NOT EXISTS "${FOLDER}/quillmark2002.mdb")
+  configure_file("${MADE}/quillmark2002.mdb" "${FOLDER}/new.mdb" COPYONLY)
+  if(HOUSEHOLD)
+    execute_process(COMMAND "${SQLITE3}" -bail "${FOLDER}/new.mdb" INPUT_FILE "${HOUSEHOLD}" COMMAND_ERROR_IS_FATAL ANY)
+  endif()
+  file(RENAME "${FOLDER}/new.mdb" "${FOLDER}/quillmark2002.mdb")
+endif()
 file(CHMOD "${FOLDER}/quillmark2002.mdb" PERMISSIONS OWNER_READ OWNER_WRITE)
 lay_if_missing("${ASSETS}/months.txt" months.txt)
 lay_if_missing("${ASSETS}/reminders.txt" reminders.txt)

@@ -23,14 +23,15 @@ constexpr double LeadSeconds = 0.02;
 constexpr double AttackSeconds = 0.005;
 constexpr double ReleaseSeconds = 0.16;
 constexpr double TargetLoudness = -20.0;  // LUFS
-constexpr double PeakCeiling = -3.0;  // dBFS
+constexpr double PeakCeiling = -3.0;      // dBFS
 constexpr double ReverbLevel = 0.16;
 
 using Sound = std::vector<double>;
 
 // One sine of a timbre: its frequency as a multiple of the note's, its level, and the seconds it takes
 // to fall to 37 % at middle A.
-struct Partial {
+struct Partial
+{
   double ratio;
   double level;
   double decay;
@@ -43,19 +44,22 @@ constexpr Voice Bell = {{{1.0, 1.0, 1.3}, {2.0, 0.35, 0.8}, {2.99, 0.12, 0.5}, {
 constexpr Voice Marimba = {{{1.0, 1.0, 0.6}, {2.0, 0.1, 0.35}, {4.0, 0.16, 0.1}, {6.8, 0.02, 0.04}, {9.2, 0.02, 0.03}}};
 
 // Times are in beats from the start of the clip; a key is a number (69 = A, 440 Hz).
-struct Chord {
+struct Chord
+{
   double beat;
   double length;
   double level;
   std::vector<int> keys;
 };
 
-struct Part {
+struct Part
+{
   Voice voice;
   std::vector<Chord> chords;
 };
 
-struct Clip {
+struct Clip
+{
   std::string file;
   double beatSeconds;
   double seconds;
@@ -77,13 +81,14 @@ double SmoothStep(double position)
 // The greeting song of 1893, its first two phrases, in G major over a waltz bass.
 Clip BirthdayClip()
 {
-  const std::vector<Chord> melody = {
-    {0, 1, 0.8, {74}}, {1, 1, 1.0, {76}}, {2, 1, 0.9, {74}}, {3, 1, 1.0, {79}}, {4, 2, 1.0, {78}},
-    {6, 1, 0.8, {74}}, {7, 1, 1.0, {76}}, {8, 1, 0.9, {74}}, {9, 1, 1.0, {81}}, {10, 4, 1.0, {79}}};
-  const std::vector<Chord> bass = {
-    {1, 1, 0.55, {55}}, {2, 1, 0.3, {59, 62}}, {3, 1, 0.3, {59, 62}}, {4, 1, 0.55, {50}},
-    {5, 1, 0.3, {60, 66}}, {6, 1, 0.3, {60, 66}}, {7, 1, 0.55, {54}}, {8, 1, 0.3, {60, 62}},
-    {9, 1, 0.3, {60, 62}}, {10, 4, 0.55, {55}}, {11, 3, 0.35, {59}}, {11.25, 3, 0.35, {62}}, {11.5, 3, 0.35, {67}}};
+  const std::vector<Chord> melody = {{0, 1, 0.8, {74}}, {1, 1, 1.0, {76}}, {2, 1, 0.9, {74}}, {3, 1, 1.0, {79}},
+                                     {4, 2, 1.0, {78}}, {6, 1, 0.8, {74}}, {7, 1, 1.0, {76}}, {8, 1, 0.9, {74}},
+                                     {9, 1, 1.0, {81}}, {10, 4, 1.0, {79}}};
+  const std::vector<Chord> bass = {{1, 1, 0.55, {55}},   {2, 1, 0.3, {59, 62}}, {3, 1, 0.3, {59, 62}},
+                                   {4, 1, 0.55, {50}},   {5, 1, 0.3, {60, 66}}, {6, 1, 0.3, {60, 66}},
+                                   {7, 1, 0.55, {54}},   {8, 1, 0.3, {60, 62}}, {9, 1, 0.3, {60, 62}},
+                                   {10, 4, 0.55, {55}},  {11, 3, 0.35, {59}},   {11.25, 3, 0.35, {62}},
+                                   {11.5, 3, 0.35, {67}}};
   return {"hapbirth.wav", 0.37, 5.8, 0.9, {{MusicBox, melody}, {Marimba, bass}}};
 }
 
@@ -91,15 +96,25 @@ Clip BirthdayClip()
 Clip WeddingClip()
 {
   constexpr double third = 1.0 / 3.0;
-  const std::vector<Chord> melody = {
-    {0, third, 0.6, {72}}, {third, third, 0.6, {72}}, {2 * third, third, 0.65, {72}}, {1, 1, 0.8, {72}},
-    {2, third, 0.45, {72, 76, 79}}, {2 + third, third, 0.45, {72, 76, 79}},
-    {2 + 2 * third, third, 0.5, {72, 76, 79}}, {3, 2, 1.0, {84}}, {5, 1.5, 1.0, {83}}, {6.5, 0.5, 0.9, {78}},
-    {7, 1, 1.0, {81}}, {8, 1, 0.9, {79}}, {9, 1, 0.9, {77}}, {10, 1, 0.9, {74}}, {11, 4, 1.0, {72}}};
+  const std::vector<Chord> melody = {{0, third, 0.6, {72}},
+                                     {third, third, 0.6, {72}},
+                                     {2 * third, third, 0.65, {72}},
+                                     {1, 1, 0.8, {72}},
+                                     {2, third, 0.45, {72, 76, 79}},
+                                     {2 + third, third, 0.45, {72, 76, 79}},
+                                     {2 + 2 * third, third, 0.5, {72, 76, 79}},
+                                     {3, 2, 1.0, {84}},
+                                     {5, 1.5, 1.0, {83}},
+                                     {6.5, 0.5, 0.9, {78}},
+                                     {7, 1, 1.0, {81}},
+                                     {8, 1, 0.9, {79}},
+                                     {9, 1, 0.9, {77}},
+                                     {10, 1, 0.9, {74}},
+                                     {11, 4, 1.0, {72}}};
   const std::vector<Chord> chords = {
-    {1, 1, 0.4, {64, 67}}, {3, 2, 0.5, {57}}, {3, 2, 0.33, {64, 69, 72, 78}}, {5, 2, 0.5, {59}},
-    {5, 2, 0.33, {63, 66, 69}}, {7, 2, 0.55, {52}}, {7, 2, 0.33, {59, 67, 71}}, {9, 2, 0.55, {53}},
-    {9, 2, 0.33, {57, 65, 69}}, {11, 4, 0.6, {48}}, {11, 4, 0.38, {55, 64, 67}}};
+      {1, 1, 0.4, {64, 67}},      {3, 2, 0.5, {57}},  {3, 2, 0.33, {64, 69, 72, 78}}, {5, 2, 0.5, {59}},
+      {5, 2, 0.33, {63, 66, 69}}, {7, 2, 0.55, {52}}, {7, 2, 0.33, {59, 67, 71}},     {9, 2, 0.55, {53}},
+      {9, 2, 0.33, {57, 65, 69}}, {11, 4, 0.6, {48}}, {11, 4, 0.38, {55, 64, 67}}};
   return {"wmfade2.wav", 0.40, 6.0, 1.8, {{Celesta, melody}, {Celesta, chords}}};
 }
 
@@ -108,8 +123,8 @@ Clip EventClip()
 {
   const std::vector<Chord> melody = {{0, 1, 0.9, {76}}, {1, 1, 0.9, {81}}, {2, 2, 1.0, {85}},
                                      {4, 1, 0.8, {83}}, {5, 1, 0.8, {78}}, {6, 6, 1.0, {81}}};
-  const std::vector<Chord> bass = {{0, 4, 0.5, {57}}, {2, 2, 0.35, {64}}, {4, 2, 0.5, {52}},
-                                   {4, 2, 0.35, {62}}, {6, 6, 0.5, {57}}, {6, 6, 0.35, {64, 73}}};
+  const std::vector<Chord> bass = {{0, 4, 0.5, {57}},  {2, 2, 0.35, {64}}, {4, 2, 0.5, {52}},
+                                   {4, 2, 0.35, {62}}, {6, 6, 0.5, {57}},  {6, 6, 0.35, {64, 73}}};
   return {"jad0044.wav", 0.21, 3.2, 0.9, {{Bell, melody}, {Marimba, bass}}};
 }
 
@@ -119,8 +134,8 @@ void AddPartial(Sound& sound, std::size_t start, double hold, const Partial& par
   const std::size_t count = std::min(SamplesIn(hold + ReleaseSeconds), sound.size() - start);
   for (std::size_t index = 0; index < count; ++index) {
     const double time = static_cast<double>(index) / SampleRate;
-    const double envelope = SmoothStep(time / AttackSeconds) * std::exp(-time / partial.decay)
-                            * SmoothStep((hold + ReleaseSeconds - time) / ReleaseSeconds);
+    const double envelope = SmoothStep(time / AttackSeconds) * std::exp(-time / partial.decay) *
+                            SmoothStep((hold + ReleaseSeconds - time) / ReleaseSeconds);
     sound[start + index] += partial.level * envelope * std::sin(2.0 * std::numbers::pi * partial.ratio * time);
   }
 }
@@ -178,7 +193,8 @@ Sound Render(const Clip& clip)
 }
 
 // A filter with two poles and two zeros; its denominator starts with 1.
-struct Biquad {
+struct Biquad
+{
   std::array<double, 3> ahead;
   std::array<double, 2> back;
 };
@@ -201,8 +217,8 @@ Sound Filter(const Sound& input, const Biquad& biquad)
   Sound output(input.size(), 0.0);
   std::array<double, 4> past = {};
   for (std::size_t index = 0; index < input.size(); ++index) {
-    output[index] = biquad.ahead[0] * input[index] + biquad.ahead[1] * past[0] + biquad.ahead[2] * past[1]
-                    - biquad.back[0] * past[2] - biquad.back[1] * past[3];
+    output[index] = biquad.ahead[0] * input[index] + biquad.ahead[1] * past[0] + biquad.ahead[2] * past[1] -
+                    biquad.back[0] * past[2] - biquad.back[1] * past[3];
     past = {input[index], past[0], output[index], past[2]};
   }
   return output;

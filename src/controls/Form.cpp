@@ -47,6 +47,11 @@ void Form::Load()
   const QList<QWidget*> children = findChildren<QWidget*>();
   std::copy_if(children.begin(), children.end(), std::back_inserter(controls_),
                [](const QWidget* child) { return IsDesigned(*child); });
+  // Fonts and sizes of the style sheet are to hold before anything is filled in.
+  ensurePolished();
+  for (const QWidget* control : controls_) {
+    control->ensurePolished();
+  }
   Form_Load();
   loaded_ = true;
 }

@@ -58,8 +58,8 @@ Form& Forms::Load(const QString& name)
 
 Form* Forms::Loaded(const QString& name)
 {
-  const auto found = std::find_if(LoadedForms().begin(), LoadedForms().end(),
-                                  [&](const Form* form) { return form->Name() == name; });
+  const auto found =
+      std::find_if(LoadedForms().begin(), LoadedForms().end(), [&](const Form* form) { return form->Name() == name; });
   return found == LoadedForms().end() ? nullptr : *found;
 }
 

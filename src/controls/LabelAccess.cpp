@@ -14,8 +14,7 @@ class LabelInterface : public QAccessibleWidget
 public:
   explicit LabelInterface(Label& label)
       : QAccessibleWidget(&label, label.IsCommand() ? QAccessible::Button : QAccessible::StaticText), label_(label)
-  {
-  }
+  {}
 
   [[nodiscard]] QString text(QAccessible::Text kind) const override
   {

@@ -3,48 +3,87 @@
 
 #include "platform/MediaDevice.h"
 
-#include <QFileInfo>
+#include <QAudioDevice>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QMediaDevices>
 #include <QSoundEffect>
 #include <QUrl>
+#include <QtEndian>
 
 #include <memory>
 
 namespace MediaDevice {
 namespace {
 
-std::unique_ptr<QSoundEffect> clip;
+struct Clip
+{
+  QSoundEffect effect;
+  qint64 milliseconds = 0;
+  QElapsedTimer sincePlay;
+};
+
+std::unique_ptr<Clip> clip;
+
+// How long a .wav file plays; 0 if it is none.
+qint64 ClipLength(const QString& path)
+{
+  constexpr qsizetype kHeaderSize = 44;
+  constexpr qsizetype kByteRateAt = 28;
+  QFile file(path);
+  if (!file.open(QIODevice::ReadOnly)) {
+    return 0;
+  }
+  const QByteArray header = file.read(kHeaderSize);
+  if (header.size() < kHeaderSize || !header.startsWith("RIFF") || header.mid(8, 4) != "WAVE") {
+    return 0;
+  }
+  const auto bytesPerSecond = qFromLittleEndian<quint32>(header.constData() + kByteRateAt);
+  return bytesPerSecond == 0 ? 0 : (file.size() - kHeaderSize) * 1000 / bytesPerSecond;
+}
+
+// A server that has gone never says that a clip has ended; its time does.
+bool HasRunItsTime()
+{
+  constexpr qint64 kPatience = 2000;
+  const qint64 patience = QMediaDevices::defaultAudioOutput().isNull() ? 0 : kPatience;
+  return clip->sincePlay.elapsed() > clip->milliseconds + patience;
+}
 
 }
 
 void Open(const QString& path)
 {
-  if (clip || !QFileInfo(path).isFile()) {
-    return;
+  const qint64 length = clip ? 0 : ClipLength(path);
+  if (length > 0) {
+    clip = std::make_unique<Clip>();
+    clip->milliseconds = length;
+    clip->effect.setSource(QUrl::fromLocalFile(path));
   }
-  clip = std::make_unique<QSoundEffect>();
-  clip->setSource(QUrl::fromLocalFile(path));
 }
 
 void Play()
 {
   if (clip) {
-    clip->stop();
-    clip->play();
+    clip->effect.stop();
+    clip->effect.play();
+    clip->sincePlay.start();
   }
 }
 
 QString Mode()
 {
-  if (!clip || clip->status() == QSoundEffect::Error) {
+  if (!clip || clip->effect.status() == QSoundEffect::Error) {
     return {};
   }
-  return clip->isPlaying() ? QStringLiteral("playing") : QStringLiteral("stopped");
+  const bool playing = clip->sincePlay.isValid() && clip->effect.isPlaying() && !HasRunItsTime();
+  return playing ? QStringLiteral("playing") : QStringLiteral("stopped");
 }
 
 void Close()
 {
   if (clip) {
-    clip->stop();
+    clip->effect.stop();
     clip.reset();
   }
 }

@@ -7,7 +7,7 @@
 
 // The one device that plays clips: 16-bit PCM .wav files, one at a time.
 // Nothing here fails aloud: an operation that cannot be done does nothing.
-// Without a sound server a clip is silent and counts as played out.
+// Without a sound server a clip runs its time in silence.
 namespace MediaDevice {
 
 // Opens a clip. Does nothing if one is open already or the file is no clip.

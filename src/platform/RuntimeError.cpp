@@ -31,10 +31,7 @@ QString UsualText(int number)
 
 }
 
-RuntimeError::RuntimeError(int number, const QString& text)
-    : number_(number), text_(text), what_(Message().toUtf8())
-{
-}
+RuntimeError::RuntimeError(int number, const QString& text) : number_(number), text_(text), what_(Message().toUtf8()) {}
 
 QString RuntimeError::Message() const
 {

@@ -11,10 +11,10 @@
 namespace {
 
 constexpr std::array<QLatin1StringView, 12> kMonths = {
-    QLatin1StringView("January"),   QLatin1StringView("February"), QLatin1StringView("March"),
-    QLatin1StringView("April"),     QLatin1StringView("May"),      QLatin1StringView("June"),
-    QLatin1StringView("July"),      QLatin1StringView("August"),   QLatin1StringView("September"),
-    QLatin1StringView("October"),   QLatin1StringView("November"), QLatin1StringView("December")};
+    QLatin1StringView("January"), QLatin1StringView("February"), QLatin1StringView("March"),
+    QLatin1StringView("April"),   QLatin1StringView("May"),      QLatin1StringView("June"),
+    QLatin1StringView("July"),    QLatin1StringView("August"),   QLatin1StringView("September"),
+    QLatin1StringView("October"), QLatin1StringView("November"), QLatin1StringView("December")};
 
 bool IsUnknown(const QVariant& value)
 {

@@ -16,6 +16,5 @@ struct NoticeDetails
   QStringList entries;  // in the order of the query
   QString sentence;     // empty if nothing fits
 
-  [[nodiscard]] static NoticeDetails Read(Database& database, ReminderKind kind, const ReminderRule& rule,
-                                          QDate today);
+  [[nodiscard]] static NoticeDetails Read(Database& database, ReminderKind kind, const ReminderRule& rule, QDate today);
 };

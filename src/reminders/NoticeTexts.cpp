@@ -74,8 +74,7 @@ QString ManySentence(ReminderKind kind, int length)
   if (length == 1) {
     return ChosenToBeNotifiedOf(QStringLiteral("all %1 occurring today and tomorrow:").arg(occasions));
   }
-  return ChosenToBeNotifiedOf(
-      QStringLiteral("all %1 occurring within the next %2 days:").arg(occasions).arg(length));
+  return ChosenToBeNotifiedOf(QStringLiteral("all %1 occurring within the next %2 days:").arg(occasions).arg(length));
 }
 
 }

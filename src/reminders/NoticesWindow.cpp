@@ -47,8 +47,7 @@ void TellNotActive()
 {
   frmTextNotice& window = Window();
   SetUpManual(window);
-  window.ShowMessage(QStringLiteral(
-      "Reminders are not active. Go to the Reminders Set-up page to format reminders."));
+  window.ShowMessage(QStringLiteral("Reminders are not active. Go to the Reminders Set-up page to format reminders."));
   window.ShowModal();
 }
 

@@ -20,6 +20,11 @@
 #include "store/DBEngine.h"
 #include "ui_frmTextNotice.h"
 
+static void LoadResources()
+{
+  Q_INIT_RESOURCE(reminders);
+}
+
 namespace {
 
 constexpr int kWidthWithDetails = 7740;
@@ -35,6 +40,7 @@ std::unique_ptr<Recordset> OpenOptions(Database& database)
 frmTextNotice::frmTextNotice()
     : Form(QStringLiteral("frmTextNotice"), Kind::kWindow), ui_(std::make_unique<Ui::frmTextNotice>())
 {
+  LoadResources();
   ui_->setupUi(this);
   setFixedSize(size());
   setWindowFlags(Qt::Window | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint |

@@ -72,9 +72,7 @@ void LookForHits(Database& database, Recordset& options)
 
 ReminderFacts ReadFacts(Recordset& options, bool manual)
 {
-  const auto setting = [&](const char* column) {
-    return IsTrue(options.Fields(QLatin1String(column)).Value());
-  };
+  const auto setting = [&](const char* column) { return IsTrue(options.Fields(QLatin1String(column)).Value()); };
   ReminderFacts facts;
   facts.active = RemindersActive(options);
   facts.manual = manual;

@@ -80,8 +80,7 @@ void mdiQuillmark::CollectMenu()
 {
   mnuLists_ = {ui_->mnuLists_0, ui_->mnuLists_1, ui_->mnuLists_2};
   mnuToolTips_ = {ui_->mnuToolTips_0, ui_->mnuToolTips_1};
-  mnuTheme_ = {ui_->mnuTheme_0, ui_->mnuTheme_1, ui_->mnuTheme_2,
-               ui_->mnuTheme_3, ui_->mnuTheme_4, ui_->mnuTheme_5};
+  mnuTheme_ = {ui_->mnuTheme_0, ui_->mnuTheme_1, ui_->mnuTheme_2, ui_->mnuTheme_3, ui_->mnuTheme_4, ui_->mnuTheme_5};
   for (QMenu* menu : ui_->menuBar->findChildren<QMenu*>()) {
     menu->menuAction()->setObjectName(menu->objectName());
   }
@@ -91,14 +90,16 @@ void mdiQuillmark::ConnectControls()
 {
   connect(&tmrTimer_, &QTimer::timeout, this, &Clips::FollowClip);
   for (int index = 0; index < 3; ++index) {
-    connect(mnuLists_[static_cast<std::size_t>(index)], &QAction::triggered, this, [=, this] { mnuLists_Click(index); });
+    connect(mnuLists_[static_cast<std::size_t>(index)], &QAction::triggered, this,
+            [=, this] { mnuLists_Click(index); });
   }
   for (int index = 0; index < 2; ++index) {
     connect(mnuToolTips_[static_cast<std::size_t>(index)], &QAction::triggered, this,
             [=, this] { mnuToolTips_Click(index); });
   }
   for (int index = 0; index < modThemes::kThemeCount; ++index) {
-    connect(mnuTheme_[static_cast<std::size_t>(index)], &QAction::triggered, this, [=, this] { mnuTheme_Click(index); });
+    connect(mnuTheme_[static_cast<std::size_t>(index)], &QAction::triggered, this,
+            [=, this] { mnuTheme_Click(index); });
   }
   ConnectForm(ui_->mnuAutostart, "frmAutoStart", false);
   ConnectForm(ui_->mnuSetReminders, "frmNotice", false);
@@ -117,9 +118,14 @@ void mdiQuillmark::ConnectForm(QAction* action, const char* form, bool isPage)
 void mdiQuillmark::EnableMenu()
 {
   const std::pair<QAction*, const char*> entries[] = {
-      {ui_->mnuLists_0, "frmQuillmark"}, {ui_->mnuLists_1, "frmSpecial"},        {ui_->mnuLists_2, "frmPrintCal"},
-      {ui_->mnuAutostart, "frmAutoStart"}, {ui_->mnuSetReminders, "frmNotice"},  {ui_->mnuPersonal, "frmNew"},
-      {ui_->mnuAnn, "frmAnn"},           {ui_->mnuAbout, "frmAbout"},
+      {ui_->mnuLists_0, "frmQuillmark"},
+      {ui_->mnuLists_1, "frmSpecial"},
+      {ui_->mnuLists_2, "frmPrintCal"},
+      {ui_->mnuAutostart, "frmAutoStart"},
+      {ui_->mnuSetReminders, "frmNotice"},
+      {ui_->mnuPersonal, "frmNew"},
+      {ui_->mnuAnn, "frmAnn"},
+      {ui_->mnuAbout, "frmAbout"},
   };
   for (const auto& [action, form] : entries) {
     action->setEnabled(Forms::IsKnown(QLatin1String(form)));
@@ -173,8 +179,9 @@ bool mdiQuillmark::PassGuards()
 void mdiQuillmark::WarnOfResolution() const
 {
   if (Screen::Width() / Screen::TwipsPerPixelX() == kPoorScreenPixels) {
-    MsgBox(QStringLiteral("Quillmark may not function as expected at your current screen resolution of "
-                          "640 x 480 pixels. Please increase the resolution."));
+    MsgBox(
+        QStringLiteral("Quillmark may not function as expected at your current screen resolution of "
+                       "640 x 480 pixels. Please increase the resolution."));
   }
 }
 
@@ -196,7 +203,8 @@ void mdiQuillmark::Centre()
 void mdiQuillmark::MarkTheme(int theme)
 {
   if (theme < 0 || theme >= modThemes::kThemeCount) {
-    throw RuntimeError(ErrorNumber::kNoSuchElement, QStringLiteral("Control array element '%1' doesn't exist").arg(theme));
+    throw RuntimeError(ErrorNumber::kNoSuchElement,
+                       QStringLiteral("Control array element '%1' doesn't exist").arg(theme));
   }
   for (int index = 0; index < modThemes::kThemeCount; ++index) {
     mnuTheme_[static_cast<std::size_t>(index)]->setChecked(index == theme);
@@ -271,6 +279,17 @@ void mdiQuillmark::resizeEvent(QResizeEvent* event)
   const QSize allowed(AtLeast(width(), kSmallestWidth), AtLeast(height(), kSmallestHeight));
   if (State() == WindowState::kNormal && allowed != size()) {
     resize(allowed);
+  }
+}
+
+// A page that was sized while the frame was minimised is fitted when that comes back.
+void mdiQuillmark::changeEvent(QEvent* event)
+{
+  QMainWindow::changeEvent(event);
+  QWidget* page = ui_->pages->currentWidget();
+  if (event->type() == QEvent::WindowStateChange && page != nullptr && State() != WindowState::kMinimised) {
+    QResizeEvent resized(page->size(), page->size());
+    QCoreApplication::sendEvent(page, &resized);
   }
 }
 

@@ -46,6 +46,7 @@ public:
   void SetTimerEnabled(bool enabled) override;
 
 protected:
+  void changeEvent(QEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
 

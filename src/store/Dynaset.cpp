@@ -43,15 +43,14 @@ std::vector<ColumnType> TypesOfItems(const Dialect::Select& select, const TableS
 
 }
 
-Dynaset::Dynaset(const std::shared_ptr<Connection>& connection, const Dialect::Select& select,
-                 const TableSchema& table)
+Dynaset::Dynaset(const std::shared_ptr<Connection>& connection, const Dialect::Select& select, const TableSchema& table)
     : ListCursor(connection, table,
                  [&] {
                    std::vector<Column> columns;
                    for (const Dialect::Item& item : select.items) {
                      const bool plain = IsPlainColumn(item.expression);
-                     columns.push_back({item.name, TypeOf(item.expression, table),
-                                        plain ? item.expression.front().text : QString()});
+                     columns.push_back(
+                         {item.name, TypeOf(item.expression, table), plain ? item.expression.front().text : QString()});
                    }
                    return columns;
                  }()),
@@ -71,14 +70,14 @@ void Dynaset::ReadOrder(const Dialect::Select& select)
     types.push_back(TypeOf(expression, Table()));
   }
   const QString condition =
-      select.notNull ? QStringLiteral(" WHERE %1 IS NOT NULL").arg(Dialect::Translate({{*select.notNull, false}}, Table()))
-                     : QString();
+      select.notNull
+          ? QStringLiteral(" WHERE %1 IS NOT NULL").arg(Dialect::Translate({{*select.notNull, false}}, Table()))
+          : QString();
   openedAt_ = Store().ChangeStamp();
-  OrderedKeys ordered =
-      ReadInOrder(Store(),
-                  QStringLiteral("SELECT %1 FROM %2%3 ORDER BY %4")
-                      .arg(columns.join(QLatin1Char(',')), QuoteName(Table().name), condition, key),
-                  types);
+  OrderedKeys ordered = ReadInOrder(Store(),
+                                    QStringLiteral("SELECT %1 FROM %2%3 ORDER BY %4")
+                                        .arg(columns.join(QLatin1Char(',')), QuoteName(Table().name), condition, key),
+                                    types);
   KeepValuesOf(select, ordered);
   Begin(std::move(ordered.keys));
 }

@@ -114,8 +114,8 @@ Recordset::Bookmark ListCursor::GetBookmark()
 
 qsizetype ListCursor::Locate(const Bookmark& bookmark) const
 {
-  const bool hintHolds = bookmark.hint >= 0 && bookmark.hint < Size() &&
-                         keys_[static_cast<std::size_t>(bookmark.hint)] == bookmark.key;
+  const bool hintHolds =
+      bookmark.hint >= 0 && bookmark.hint < Size() && keys_[static_cast<std::size_t>(bookmark.hint)] == bookmark.key;
   return hintHolds ? bookmark.hint : std::find(keys_.begin(), keys_.end(), bookmark.key) - keys_.begin();
 }
 

@@ -99,8 +99,7 @@ private:
 
   std::uint32_t NumberOfNumber(const Statement& statement, int column)
   {
-    const auto [known, isNew] =
-        numbers_.emplace(statement.Number(column), static_cast<std::uint32_t>(values_.size()));
+    const auto [known, isNew] = numbers_.emplace(statement.Number(column), static_cast<std::uint32_t>(values_.size()));
     if (isNew) {
       values_.push_back({Kind::kNumber, known->first, {}, statement.Value(column, type_)});
     }

@@ -67,30 +67,24 @@ inline const QString kPartners = QStringLiteral(
     "FullName From People ORDER BY LastName & Firstname");
 
 // The wedding dates whose blanks are repaired.
-inline const QString kCoupleDates = QStringLiteral(
-    "SELECT Ann.AnnMonth, Ann.AnnDate, Ann.AnnYear From Ann");
+inline const QString kCoupleDates = QStringLiteral("SELECT Ann.AnnMonth, Ann.AnnDate, Ann.AnnYear From Ann");
 
 // The tally of anniversaries, and what it counts.
-inline const QString kTotalAnn = QStringLiteral(
-    "SELECT TotalAnn.Month, TotalAnn.Total FROM TotalAnn");
-inline const QString kAnnMonths = QStringLiteral(
-    "SELECT Ann.AnnMonth FROM Ann ORDER BY Ann.AnnMonth");
+inline const QString kTotalAnn = QStringLiteral("SELECT TotalAnn.Month, TotalAnn.Total FROM TotalAnn");
+inline const QString kAnnMonths = QStringLiteral("SELECT Ann.AnnMonth FROM Ann ORDER BY Ann.AnnMonth");
 
 // The tally of birthdays, and what it counts.
-inline const QString kTotalBirthdays = QStringLiteral(
-    "SELECT TotalBirthdays.Month, TotalBirthdays.Total FROM TotalBirthdays");
-inline const QString kBirthMonths = QStringLiteral(
-    "SELECT People.BirthMonth FROM People ORDER BY People.BirthMonth");
+inline const QString kTotalBirthdays =
+    QStringLiteral("SELECT TotalBirthdays.Month, TotalBirthdays.Total FROM TotalBirthdays");
+inline const QString kBirthMonths = QStringLiteral("SELECT People.BirthMonth FROM People ORDER BY People.BirthMonth");
 
 // The tally of ages, and what it counts.
-inline const QString kTotalAge = QStringLiteral(
-    "SELECT TotalAge.Age, TotalAge.Total FROM TotalAge");
-inline const QString kBirthYears = QStringLiteral(
-    "SELECT People.BirthYear FROM People ORDER BY People.BirthYear");
+inline const QString kTotalAge = QStringLiteral("SELECT TotalAge.Age, TotalAge.Total FROM TotalAge");
+inline const QString kBirthYears = QStringLiteral("SELECT People.BirthYear FROM People ORDER BY People.BirthYear");
 
 // The chart by city.
-inline const QString kPeopleByCity = QStringLiteral(
-    "SELECT People.City, Count(City) AS Total FROM People WHERE Not IsNull(City) GROUP BY City");
+inline const QString kPeopleByCity =
+    QStringLiteral("SELECT People.City, Count(City) AS Total FROM People WHERE Not IsNull(City) GROUP BY City");
 
 // The chart by province.
 inline const QString kPeopleByProvince = QStringLiteral(
@@ -124,15 +118,15 @@ inline const QString kNoticeBirthdays = QStringLiteral(
 inline const QString kNoticeAnniversaries = QStringLiteral(
     "SELECT Ann.Spouse1First, Ann.Spouse2First, Ann.AnnMonth, Ann.AnnDate From Ann ORDER by Ann.AnnMonth, "
     "Ann.AnnDate");
-inline const QString kNoticeEvents = QStringLiteral(
-    "SELECT Reminders.Date, Reminders.Month, Reminders.Event from Reminders ORDER by Reminders.Month");
+inline const QString kNoticeEvents =
+    QStringLiteral("SELECT Reminders.Date, Reminders.Month, Reminders.Event from Reminders ORDER by Reminders.Month");
 
 // What the reminder check looks through.
 inline const QString kCheckBirthdays = QStringLiteral(
     "SELECT People.BirthMonth, People.BirthDate From People ORDER by People.BirthMonth, People.BirthDate");
-inline const QString kCheckAnniversaries = QStringLiteral(
-    "SELECT People.AnnMonth, People.AnnDate From People ORDER by People.AnnMonth, People.AnnDate");
-inline const QString kCheckEvents = QStringLiteral(
-    "SELECT Reminders.Date, Reminders.Month from Reminders ORDER by Reminders.Month");
+inline const QString kCheckAnniversaries =
+    QStringLiteral("SELECT People.AnnMonth, People.AnnDate From People ORDER by People.AnnMonth, People.AnnDate");
+inline const QString kCheckEvents =
+    QStringLiteral("SELECT Reminders.Date, Reminders.Month from Reminders ORDER by Reminders.Month");
 
 }

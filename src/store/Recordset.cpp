@@ -137,8 +137,7 @@ void Recordset::Delete()
 {
   MustBeUpdatable();
   ForgetEdit();
-  const QString sql =
-      QStringLiteral("DELETE FROM %1 WHERE %2=?").arg(QuoteName(table_.name), QuoteName(table_.key));
+  const QString sql = QStringLiteral("DELETE FROM %1 WHERE %2=?").arg(QuoteName(table_.name), QuoteName(table_.key));
   Write(sql, {CurrentKey()});
   RowDeleted();
 }

@@ -54,11 +54,11 @@ public:
   // True when the last Seek or FindFirst found nothing.
   [[nodiscard]] bool NoMatch() const { return noMatch_; }
 
-  void AddNew();        // after Update the row that was current still is
+  void AddNew();  // after Update the row that was current still is
   void Edit();
-  void Update();        // throws 3022 if a unique index refuses; the edit stays open then
+  void Update();  // throws 3022 if a unique index refuses; the edit stays open then
   void CancelUpdate();
-  void Delete();        // the row stays current, as deleted, until the next move
+  void Delete();  // the row stays current, as deleted, until the next move
 
   // A column by name, without regard to case. Throws 3265. Good as long as the cursor.
   [[nodiscard]] Field& Fields(const QString& name);

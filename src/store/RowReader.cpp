@@ -49,8 +49,7 @@ RowReader::RowReader(Connection& connection, const TableSchema& table, std::vect
       expressions_(std::move(expressions)),
       types_(std::move(types)),
       place_(expressions_.size(), -1)
-{
-}
+{}
 
 bool RowReader::Exists(std::span<const qint64> keys)
 {

@@ -10,9 +10,8 @@ namespace {
 template <typename Items>
 auto FindByName(const Items& items, const QString& name) -> decltype(items.data())
 {
-  const auto found = std::find_if(items.begin(), items.end(), [&](const auto& item) {
-    return item.name.compare(name, Qt::CaseInsensitive) == 0;
-  });
+  const auto found = std::find_if(items.begin(), items.end(),
+                                  [&](const auto& item) { return item.name.compare(name, Qt::CaseInsensitive) == 0; });
   return found == items.end() ? nullptr : &*found;
 }
 

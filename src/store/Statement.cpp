@@ -23,8 +23,7 @@ void BindText(sqlite3_stmt* statement, int parameter, const QString& text)
 
 Statement::Statement(Connection& connection, const QString& sql)
     : connection_(connection), statement_(connection.Prepare(sql))
-{
-}
+{}
 
 Statement::~Statement()
 {

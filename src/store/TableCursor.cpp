@@ -119,14 +119,17 @@ std::vector<TableCursor::Place> TableCursor::ReadPlaces(Direction direction, con
 std::optional<TableCursor::Place> TableCursor::PlaceOf(qint64 key)
 {
   const QString column = indexColumn_.isEmpty() ? QStringLiteral("NULL") : indexColumn_;
-  Statement statement(Store(), QStringLiteral("SELECT %1 FROM %2 WHERE %3=?")
-                                   .arg(column, QuoteName(Table().name), QuoteName(Table().key)));
+  Statement statement(
+      Store(),
+      QStringLiteral("SELECT %1 FROM %2 WHERE %3=?").arg(column, QuoteName(Table().name), QuoteName(Table().key)));
   statement.Bind(1, key);
   if (!statement.Step()) {
     return std::nullopt;
   }
   const bool number = statement.IsNumber(0);
-  return Place{statement.IsNull(0) ? QVariant() : number ? QVariant(statement.Integer(0)) : QVariant(statement.Text(0)),
+  return Place{statement.IsNull(0) ? QVariant()
+               : number            ? QVariant(statement.Integer(0))
+                                   : QVariant(statement.Text(0)),
                key};
 }
 
@@ -262,9 +265,9 @@ void TableCursor::Seek(const QString& comparison, const QVariant& key)
     StoreError::Raise(StoreError::kNoIndex);
   }
   const QString keyColumn = QuoteName(Table().key);
-  Statement statement(Store(), QStringLiteral("SELECT %1 FROM %2 WHERE %3=? ORDER BY %1 LIMIT 1")
-                                   .arg(keyColumn, QuoteName(Table().name),
-                                        indexColumn_.isEmpty() ? keyColumn : indexColumn_));
+  Statement statement(Store(),
+                      QStringLiteral("SELECT %1 FROM %2 WHERE %3=? ORDER BY %1 LIMIT 1")
+                          .arg(keyColumn, QuoteName(Table().name), indexColumn_.isEmpty() ? keyColumn : indexColumn_));
   statement.Bind(1, key);
   SetNoMatch(!statement.Step());
   if (NoMatch()) {

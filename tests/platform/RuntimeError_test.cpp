@@ -5,6 +5,8 @@
 
 #include <gtest/gtest.h>
 
+#include <stdexcept>
+
 TEST(RuntimeError, MessageHasTheNumberAndTheText)
 {
   const RuntimeError error(3021, QStringLiteral("No current record."));
@@ -15,4 +17,56 @@ TEST(RuntimeError, AttemptStepsOverAFailureAndSaysSo)
 {
   EXPECT_FALSE(Attempt([] { RaiseError(ErrorNumber::kTypeMismatch); }));
   EXPECT_TRUE(Attempt([] {}));
+}
+
+TEST(RuntimeError, KeepsItsNumberAndItsText)
+{
+  const RuntimeError error(53, QStringLiteral("Datei „é“ 🎂"));
+  EXPECT_EQ(error.Number(), 53);
+  EXPECT_EQ(error.Text(), QStringLiteral("Datei „é“ 🎂"));
+  const RuntimeError copy = error;
+  EXPECT_EQ(copy.Message(), error.Message());
+  EXPECT_STREQ(copy.what(), error.what());
+}
+
+TEST(RuntimeError, EveryNumberHasItsText)
+{
+  const struct
+  {
+    int number;
+    const char* text;
+  } kCases[] = {
+      {ErrorNumber::kOverflow, "Overflow"},
+      {ErrorNumber::kSubscriptOutOfRange, "Subscript out of range"},
+      {ErrorNumber::kTypeMismatch, "Type mismatch"},
+      {ErrorNumber::kFileNotFound, "File not found"},
+      {ErrorNumber::kFileAccess, "Path/File access error"},
+      {ErrorNumber::kInvalidUseOfNull, "Invalid use of Null"},
+      {ErrorNumber::kObjectUnloaded, "Object was unloaded"},
+      {ErrorNumber::kInvalidPicture, "Invalid picture"},
+  };
+  for (const auto& [number, text] : kCases) {
+    try {
+      RaiseError(number);
+      FAIL() << number;
+    } catch (const RuntimeError& error) {
+      EXPECT_EQ(error.Number(), number);
+      EXPECT_EQ(error.Text(), text);
+    }
+  }
+}
+
+TEST(RuntimeError, AttemptKeepsWhatWasDoneBeforeTheFailure)
+{
+  int done = 0;
+  EXPECT_FALSE(Attempt([&] {
+    done = 1;
+    RaiseError(ErrorNumber::kOverflow);
+  }));
+  EXPECT_EQ(done, 1);
+}
+
+TEST(RuntimeError, AttemptLetsOtherExceptionsPass)
+{
+  EXPECT_THROW(Attempt([] { throw std::runtime_error("stop"); }), std::runtime_error);
 }

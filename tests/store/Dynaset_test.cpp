@@ -459,6 +459,33 @@ TEST_F(Dynaset, AddedRowCanBeDeleted)
   EXPECT_EQ(folder.Value("SELECT Count(*) FROM People"), 3);
 }
 
+TEST_F(Dynaset, FromADeletedLastRowMovesGoToItsNeighboursWhenARowIsAdded)
+{
+  for (const bool forward : {true, false}) {
+    folder.Execute("DELETE FROM People");
+    AddAdamsBrownClark();
+    const auto cursor = Open();
+    cursor->MoveLast();
+    cursor->Delete();
+    Add(*cursor, "Aaron");
+    forward ? cursor->MoveNext() : cursor->MovePrevious();
+    ASSERT_FALSE(cursor->Eof());
+    EXPECT_EQ(LastName(*cursor), forward ? "Aaron" : "Brown");
+  }
+}
+
+TEST_F(Dynaset, FromTheEndAnAddedRowIsBehind)
+{
+  AddAdamsBrownClark();
+  const auto cursor = Open();
+  cursor->MoveLast();
+  cursor->MoveNext();
+  Add(*cursor, "Aaron");
+  EXPECT_TRUE(cursor->Eof());
+  cursor->MovePrevious();
+  EXPECT_EQ(LastName(*cursor), "Aaron");
+}
+
 TEST_F(Dynaset, AnotherCursorsChangeIsSeenAtTheNextMove)
 {
   AddAdamsBrownClark();

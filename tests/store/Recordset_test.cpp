@@ -49,15 +49,12 @@ protected:
 };
 
 INSTANTIATE_TEST_SUITE_P(Cursor, EveryCursor, testing::Values(Database::kTable, Database::kDynaset),
-                         [](const auto& info) { return info.param == Database::kTable ? "Table" : "Dynaset"; });
+                         [](const auto& suite) { return suite.param == Database::kTable ? "Table" : "Dynaset"; });
 
 class RecordsetEdits : public testing::Test
 {
 protected:
-  std::unique_ptr<Recordset> OpenTable(const QString& table)
-  {
-    return database.OpenRecordset(table, Database::kTable);
-  }
+  std::unique_ptr<Recordset> OpenTable(const QString& table) { return database.OpenRecordset(table, Database::kTable); }
 
   ProgramFolder folder;
   Database database = DBEngine::OpenDatabase();
@@ -249,7 +246,19 @@ TEST_P(EveryCursor, NullAndEmptyTextDiffer)
 TEST_P(EveryCursor, TextsComeBackAsTheyWere)
 {
   const auto cursor = Open();
-  for (const QString text : {"O'Neil", "\"quoted\"", "two\nlines\r\n", "  blanks  ", "100%", "Ωµé", "茶", "🎂", "; --"}) {
+  const QStringList texts{"O'Neil",
+                          "\"quoted\"",
+                          "two\nlines\r\n",
+                          "  blanks  ",
+                          "100%",
+                          "%1 %2",
+                          "Ωµé",
+                          "茶",
+                          "🎂",
+                          "; --",
+                          QString("a") + QChar(u'\0') + "b",
+                          "\uFEFFmark"};
+  for (const QString& text : texts) {
     cursor->Edit();
     cursor->Fields("Notes").SetValue(text);
     cursor->Update();
@@ -340,8 +349,7 @@ TEST_F(RecordsetEdits, DatesAndTimesTravelAsSuch)
   EXPECT_EQ(cursor->Fields("Date").Value(), QDate(2004, 2, 29));
   EXPECT_EQ(cursor->Fields("Time").Value().typeId(), QMetaType::QTime);
   EXPECT_EQ(cursor->Fields("Time").Value(), QTime(16, 5));
-  EXPECT_EQ(folder.Rows("SELECT Date, Time FROM Reminders"),
-            std::vector<QVariantList>({{"2004-02-29", "16:05:00"}}));
+  EXPECT_EQ(folder.Rows("SELECT Date, Time FROM Reminders"), std::vector<QVariantList>({{"2004-02-29", "16:05:00"}}));
 }
 
 TEST_F(RecordsetEdits, DatesAndTimesCanBeTakenAway)
@@ -401,8 +409,7 @@ TEST_F(RecordsetEdits, ThemesAreNumbers)
   theme.SetValue(27);
   cursor->Update();
   EXPECT_EQ(theme.Value(), 27);
-  EXPECT_EQ(folder.Rows("SELECT typeof(Theme), Theme FROM Options"),
-            std::vector<QVariantList>({{"integer", 27}}));
+  EXPECT_EQ(folder.Rows("SELECT typeof(Theme), Theme FROM Options"), std::vector<QVariantList>({{"integer", 27}}));
 }
 
 TEST_F(RecordsetEdits, TalliesAreWrittenThroughTheirQueries)

@@ -26,10 +26,7 @@ public:
   OutsideConnection(const OutsideConnection&) = delete;
   OutsideConnection& operator=(const OutsideConnection&) = delete;
 
-  void RunScript(const QByteArray& sql)
-  {
-    Check(sqlite3_exec(handle_, sql.constData(), nullptr, nullptr, nullptr));
-  }
+  void RunScript(const QByteArray& sql) { Check(sqlite3_exec(handle_, sql.constData(), nullptr, nullptr, nullptr)); }
 
   std::vector<QVariantList> Run(const QString& sql, const QVariantList& parameters)
   {

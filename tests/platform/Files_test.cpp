@@ -1,0 +1,302 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "platform/Files.h"
+#include "platform/RuntimeError.h"
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <csignal>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace {
+
+template <typename Work>
+int ErrorOf(Work&& work)
+{
+  try {
+    work();
+  } catch (const RuntimeError& error) {
+    return error.Number();
+  }
+  return 0;
+}
+
+class FilesInAFolder : public testing::Test
+{
+protected:
+  [[nodiscard]] QString Path(const QString& name) const { return folder.path() + "/" + name; }
+
+  void Write(const QString& name, const QByteArray& contents) const
+  {
+    QFile file(Path(name));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
+    file.write(contents);
+  }
+
+  [[nodiscard]] QByteArray Contents(const QString& name) const
+  {
+    QFile file(Path(name));
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("unreadable");
+  }
+
+  [[nodiscard]] QStringList Entries() const
+  {
+    return QDir(folder.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot | QDir::Hidden, QDir::Name);
+  }
+
+  void Allow(mode_t folderMode, const QString& name, mode_t fileMode) const
+  {
+    ASSERT_EQ(chmod(Path(name).toUtf8().constData(), fileMode), 0);
+    ASSERT_EQ(chmod(folder.path().toUtf8().constData(), folderMode), 0);
+  }
+
+  QTemporaryDir folder;
+};
+
+// What `work` fails with in a process of its own, run as a user without rights, whose
+// files grow no longer than `limit`.
+template <typename Work>
+int ErrorInAWeakProcess(Work&& work, rlim_t limit = RLIM_INFINITY)
+{
+  int pipeEnds[2] = {};
+  if (pipe(pipeEnds) != 0) {
+    return -1;
+  }
+  const pid_t child = fork();
+  if (child == 0) {
+    const rlimit sizes{limit, limit};
+    signal(SIGXFSZ, SIG_IGN);
+    int result = -1;
+    if (setrlimit(RLIMIT_FSIZE, &sizes) == 0 && (geteuid() != 0 || (setgid(65534) == 0 && setuid(65534) == 0))) {
+      result = ErrorOf(work);
+    }
+    static_cast<void>(!write(pipeEnds[1], &result, sizeof result));
+    _exit(0);
+  }
+  close(pipeEnds[1]);
+  int result = -1;
+  if (read(pipeEnds[0], &result, sizeof result) != sizeof result) {
+    result = -1;
+  }
+  close(pipeEnds[0]);
+  waitpid(child, nullptr, 0);
+  return result;
+}
+
+}
+
+TEST_F(FilesInAFolder, FileLenIsTheSizeInBytes)
+{
+  Write("empty", "");
+  Write("text", "é\n");
+  Write("large", QByteArray(3'000'000, 'x'));
+  EXPECT_EQ(Files::FileLen(Path("empty")), 0);
+  EXPECT_EQ(Files::FileLen(Path("text")), 3);
+  EXPECT_EQ(Files::FileLen(Path("large")), 3'000'000);
+}
+
+TEST_F(FilesInAFolder, WhatIsNotThereIsMissing)
+{
+  Write("target", "old");
+  for (const QString name : {"none", "no/such/folder"}) {
+    EXPECT_EQ(ErrorOf([&] { static_cast<void>(Files::FileLen(Path(name))); }), ErrorNumber::kFileNotFound);
+    EXPECT_EQ(ErrorOf([&] { Files::DeleteFile(Path(name)); }), ErrorNumber::kFileNotFound);
+    EXPECT_EQ(ErrorOf([&] { Files::Name(Path(name), Path("new")); }), ErrorNumber::kFileNotFound);
+    EXPECT_EQ(ErrorOf([&] { Files::CopyFile(Path(name), Path("new")); }), ErrorNumber::kFileNotFound);
+    EXPECT_EQ(ErrorOf([&] { Files::CopyFile(Path(name), Path("target")); }), ErrorNumber::kFileNotFound);
+    EXPECT_EQ(ErrorOf([&] { static_cast<void>(Files::ReadLines(Path(name))); }), ErrorNumber::kFileNotFound);
+  }
+  EXPECT_EQ(Contents("target"), "old");
+  EXPECT_EQ(Entries(), QStringList({"target"}));
+}
+
+TEST_F(FilesInAFolder, AFolderIsNoFile)
+{
+  ASSERT_TRUE(QDir(folder.path()).mkdir("inner"));
+  Write("source", "new");
+  EXPECT_NE(ErrorOf([&] { Files::DeleteFile(Path("inner")); }), 0);
+  EXPECT_NE(ErrorOf([&] { Files::CopyFile(Path("inner"), Path("new")); }), 0);
+  EXPECT_NE(ErrorOf([&] { static_cast<void>(Files::ReadLines(Path("inner"))); }), 0);
+  EXPECT_EQ(ErrorOf([&] { Files::CopyFile(Path("source"), Path("inner")); }), ErrorNumber::kFileAccess);
+  EXPECT_EQ(Entries(), QStringList({"inner", "source"}));
+}
+
+TEST_F(FilesInAFolder, DeleteFileRemovesTheFileAlone)
+{
+  Write("file", "x");
+  Write("other", "y");
+  Files::DeleteFile(Path("file"));
+  EXPECT_EQ(Entries(), QStringList({"other"}));
+}
+
+TEST_F(FilesInAFolder, AFileThatMayNotBeRemovedStays)
+{
+  Write("file", "x");
+  Allow(0555, "file", 0444);
+  EXPECT_EQ(ErrorInAWeakProcess([&] { Files::DeleteFile(Path("file")); }), ErrorNumber::kFileAccess);
+  EXPECT_EQ(ErrorInAWeakProcess([&] { Files::Name(Path("file"), Path("new")); }), ErrorNumber::kFileAccess);
+  Allow(0755, "file", 0644);
+  EXPECT_EQ(Contents("file"), "x");
+  EXPECT_EQ(Entries(), QStringList({"file"}));
+}
+
+TEST_F(FilesInAFolder, NameGivesAnotherName)
+{
+  Write("old", "x");
+  Files::Name(Path("old"), Path("new"));
+  EXPECT_EQ(Contents("new"), "x");
+  EXPECT_EQ(Entries(), QStringList({"new"}));
+}
+
+TEST_F(FilesInAFolder, NameMovesBetweenFolders)
+{
+  ASSERT_TRUE(QDir(folder.path()).mkdir("inner"));
+  Write("old", "x");
+  Files::Name(Path("old"), Path("inner/new"));
+  EXPECT_EQ(Contents("inner/new"), "x");
+  EXPECT_EQ(Entries(), QStringList({"inner"}));
+}
+
+TEST_F(FilesInAFolder, NameRefusesATakenName)
+{
+  Write("old", "x");
+  Write("new", "y");
+  EXPECT_EQ(ErrorOf([&] { Files::Name(Path("old"), Path("new")); }), ErrorNumber::kFileAccess);
+  EXPECT_EQ(Contents("old"), "x");
+  EXPECT_EQ(Contents("new"), "y");
+}
+
+TEST_F(FilesInAFolder, NameRefusesAFolderThatIsNotThere)
+{
+  Write("old", "x");
+  EXPECT_EQ(ErrorOf([&] { Files::Name(Path("old"), Path("inner/new")); }), ErrorNumber::kFileAccess);
+  EXPECT_EQ(Contents("old"), "x");
+}
+
+TEST_F(FilesInAFolder, CopyFileMakesTheSameFile)
+{
+  const QByteArray contents = QByteArray("\0\r\n\xFF", 4) + QByteArray(3'000'000, 'x');
+  Write("source", contents);
+  Files::CopyFile(Path("source"), Path("target"));
+  EXPECT_EQ(Contents("target"), contents);
+  EXPECT_EQ(Contents("source"), contents);
+  EXPECT_EQ(Entries(), QStringList({"source", "target"}));
+}
+
+TEST_F(FilesInAFolder, CopyFileReplacesAllThatStoodThere)
+{
+  Write("source", "new");
+  Write("target", QByteArray(100'000, 'o'));
+  Files::CopyFile(Path("source"), Path("target"));
+  EXPECT_EQ(Contents("target"), "new");
+  Write("source", "");
+  Files::CopyFile(Path("source"), Path("target"));
+  EXPECT_EQ(Contents("target"), "");
+  EXPECT_EQ(Entries(), QStringList({"source", "target"}));
+}
+
+TEST_F(FilesInAFolder, CopyingAFileOverItselfLosesNothing)
+{
+  Write("file", "x");
+  static_cast<void>(ErrorOf([&] { Files::CopyFile(Path("file"), Path("file")); }));
+  static_cast<void>(ErrorOf([&] { Files::CopyFile(Path("file"), Path("./file")); }));
+  EXPECT_EQ(Contents("file"), "x");
+  EXPECT_EQ(Entries(), QStringList({"file"}));
+}
+
+TEST_F(FilesInAFolder, CopyFileRefusesAFolderThatIsNotThere)
+{
+  Write("source", "x");
+  EXPECT_EQ(ErrorOf([&] { Files::CopyFile(Path("source"), Path("inner/target")); }), ErrorNumber::kFileAccess);
+  EXPECT_EQ(Entries(), QStringList({"source"}));
+}
+
+TEST_F(FilesInAFolder, WhatMayNotBeReadIsRefused)
+{
+  Write("source", "x");
+  Write("target", "old");
+  Allow(0777, "source", 0000);
+  EXPECT_EQ(ErrorInAWeakProcess([&] { Files::CopyFile(Path("source"), Path("target")); }), ErrorNumber::kFileAccess);
+  EXPECT_EQ(ErrorInAWeakProcess([&] { Files::CopyFile(Path("source"), Path("new")); }), ErrorNumber::kFileAccess);
+  EXPECT_EQ(ErrorInAWeakProcess([&] { static_cast<void>(Files::ReadLines(Path("source"))); }),
+            ErrorNumber::kFileAccess);
+  EXPECT_EQ(Contents("target"), "old");
+  EXPECT_EQ(Entries(), QStringList({"source", "target"}));
+}
+
+TEST_F(FilesInAFolder, CopyFileRefusesAFolderThatMayNotBeWritten)
+{
+  Write("source", "x");
+  Allow(0555, "source", 0444);
+  EXPECT_EQ(ErrorInAWeakProcess([&] { Files::CopyFile(Path("source"), Path("target")); }), ErrorNumber::kFileAccess);
+  EXPECT_EQ(Entries(), QStringList({"source"}));
+  Allow(0755, "source", 0644);
+}
+
+TEST_F(FilesInAFolder, CopyFileRefusesATargetThatMayNotBeWritten)
+{
+  Write("source", "new");
+  Write("target", "old");
+  Allow(0777, "target", 0444);
+  EXPECT_EQ(ErrorInAWeakProcess([&] { Files::CopyFile(Path("source"), Path("target")); }), ErrorNumber::kFileAccess);
+  EXPECT_EQ(Contents("target"), "old");
+  EXPECT_EQ(Entries(), QStringList({"source", "target"}));
+}
+
+TEST_F(FilesInAFolder, ACopyThatDoesNotFitLeavesWhatStoodThere)
+{
+  Write("source", QByteArray(1'000'000, 'n'));
+  Write("target", "old");
+  Allow(0777, "target", 0666);
+  for (const rlim_t limit : {rlim_t{0}, rlim_t{1000}, rlim_t{999'999}}) {
+    EXPECT_EQ(ErrorInAWeakProcess([&] { Files::CopyFile(Path("source"), Path("target")); }, limit),
+              ErrorNumber::kFileAccess)
+        << limit;
+    EXPECT_EQ(ErrorInAWeakProcess([&] { Files::CopyFile(Path("source"), Path("new")); }, limit),
+              ErrorNumber::kFileAccess)
+        << limit;
+    EXPECT_EQ(Contents("target"), "old") << limit;
+    EXPECT_EQ(Entries(), QStringList({"source", "target"})) << limit;
+  }
+}
+
+TEST_F(FilesInAFolder, ReadLinesGivesLinesWithoutTheirEnds)
+{
+  const struct
+  {
+    const char* contents;
+    QStringList lines;
+  } kCases[] = {
+      {"", {}},
+      {"\n", {""}},
+      {"one", {"one"}},
+      {"one\n", {"one"}},
+      {"one\ntwo", {"one", "two"}},
+      {"one\r\ntwo\r\n", {"one", "two"}},
+      {"one\n\ntwo\n\n", {"one", "", "two", ""}},
+      {"  one \n\ttwo\n", {"  one ", "\ttwo"}},
+      {"é茶🎂\nb", {"é茶🎂", "b"}},
+  };
+  for (const auto& [contents, lines] : kCases) {
+    Write("file", contents);
+    EXPECT_EQ(Files::ReadLines(Path("file")), lines) << contents;
+  }
+}
+
+TEST_F(FilesInAFolder, NamesMayHoldAnyCharacter)
+{
+  Write("é 茶 #%20?.txt", "x");
+  Files::CopyFile(Path("é 茶 #%20?.txt"), Path("b'\" &.txt"));
+  Files::Name(Path("b'\" &.txt"), Path("🎂"));
+  EXPECT_EQ(Files::FileLen(Path("🎂")), 1);
+  Files::DeleteFile(Path("🎂"));
+  EXPECT_EQ(Entries(), QStringList({"é 茶 #%20?.txt"}));
+}

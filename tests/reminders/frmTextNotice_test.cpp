@@ -1,0 +1,201 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "ReminderTest.h"
+
+namespace {
+
+class NoticesTest : public ReminderTest
+{
+protected:
+  frmTextNotice& Open()
+  {
+    modTextNotices::CheckReminders(false);
+    return *Window();
+  }
+
+  static QStringList Details(QWidget& form) { return Lines(form, QStringLiteral("lstMoreInfo")); }
+  static QString Sentence(QWidget& form) { return Caption(form, QStringLiteral("lblExplain")); }
+};
+
+}
+
+TEST_F(NoticesTest, OpensNarrowAndWidensAtAClickOnALine)
+{
+  AddPerson("Ann", "Lee", "May", "5");
+  frmTextNotice& window = Open();
+  EXPECT_EQ(window.ScaleWidth(), 3750);
+  EXPECT_EQ(window.ScaleHeight(), 3240);
+  ClickLine(window, "lstNotices", 0);
+  EXPECT_EQ(window.ScaleWidth(), 7740);
+  EXPECT_EQ(window.ScaleHeight(), 3240);
+}
+
+TEST_F(NoticesTest, ListsTheNearestFirst)
+{
+  AddPerson("Zoe", "Far", "May", "17");
+  AddPerson("Yan", "Near", "May", "8");
+  AddPerson("Xia", "Today", "May", "5");
+  AddPerson("Wim", "Tomorrow", "May", "6");
+  AddPerson("Not", "Due", "May", "20");
+  Set("BirthLength=14");
+  frmTextNotice& window = Open();
+  ClickLine(window, "lstNotices", 0);
+  EXPECT_EQ(Details(window), QStringList({"In  0 days (today) - Xia Today", "In  1 day - Wim Tomorrow",
+                                          "In  3 days - Yan Near", "In 12 days - Zoe Far"}));
+  EXPECT_EQ(Sentence(window),
+            QStringLiteral("You've chosen to be notified of all birthdays occurring within the next 14 days:"));
+}
+
+TEST_F(NoticesTest, ManyWithNoDaysListsBareNamesInOrder)
+{
+  AddPerson("zoe", "Lee", "May", "5");
+  AddPerson("Ann", "Lee", "May", "5");
+  AddPerson("Ben", "Lee", "May", "5");
+  Set("BirthLength=0");
+  frmTextNotice& window = Open();
+  ClickLine(window, "lstNotices", 0);
+  EXPECT_EQ(Details(window), QStringList({"Ann Lee", "Ben Lee", "zoe Lee"}));
+  EXPECT_EQ(Sentence(window), QStringLiteral("You've chosen to be notified of birthdays occurring today:"));
+}
+
+TEST_F(NoticesTest, OnceListsBareNamesAndTheSentenceSaysTheDay)
+{
+  AddPerson("Ann", "Lee", "May", "6");
+  AddPerson("Ben", "Lee", "May", "7");
+  Set("BirthOnce=1, BirthMany=0, BirthLength=1");
+  frmTextNotice& window = Open();
+  ClickLine(window, "lstNotices", 0);
+  EXPECT_EQ(Details(window), QStringList{"Ann Lee"});
+  EXPECT_EQ(Sentence(window), QStringLiteral("You've chosen to be notified of birthdays occurring tomorrow:"));
+}
+
+TEST_F(NoticesTest, ASecondLineReplacesTheDetailsAndKeepsTheWidth)
+{
+  AddPerson("Ann", "Lee", "May", "6");
+  AddCouple("Mia", "Tom", "May", "7");
+  AddEvent("Dentist", "May", "2026-05-08");
+  frmTextNotice& window = Open();
+  ClickLine(window, "lstNotices", 0);
+  EXPECT_EQ(Details(window), QStringList{"In  1 day - Ann Lee"});
+  ClickLine(window, "lstNotices", 1);
+  EXPECT_EQ(Details(window), QStringList{"In  2 days - Mia and Tom"});
+  EXPECT_EQ(Sentence(window),
+            QStringLiteral("You've chosen to be notified of all anniversaries occurring within the next 7 days:"));
+  ClickLine(window, "lstNotices", 2);
+  EXPECT_EQ(Details(window), QStringList{"In  3 days - Dentist"}) << "never the time";
+  EXPECT_EQ(Sentence(window),
+            QStringLiteral("You've chosen to be notified of all calendar events occurring within the next 3 days:"));
+  EXPECT_EQ(window.ScaleWidth(), 7740);
+}
+
+TEST_F(NoticesTest, ANameWithoutFirstNameBeginsWithABlank)
+{
+  folder.Execute("INSERT INTO People (LastName, BirthMonth, BirthDate) VALUES ('Lee', 'May', '5')");
+  Set("BirthLength=0");
+  frmTextNotice& window = Open();
+  ClickLine(window, "lstNotices", 0);
+  EXPECT_EQ(Details(window), QStringList{" Lee"});
+}
+
+TEST_F(NoticesTest, ALineWithNothingBehindItLeavesAnEmptyListAndTheSentence)
+{
+  AddPerson("Ann", "Lee", "May", "6");
+  folder.Execute("INSERT INTO People (FirstName, AnnMonth, AnnDate) VALUES ('Mia', 'May', '6')");
+  frmTextNotice& window = Open();
+  ClickLine(window, "lstNotices", 0);
+  const QString sentence = Sentence(window);
+  ClickLine(window, "lstNotices", 1);
+  EXPECT_EQ(Details(window), QStringList());
+  EXPECT_EQ(Sentence(window), sentence);
+  EXPECT_EQ(window.ScaleWidth(), 7740);
+}
+
+TEST_F(NoticesTest, SettingsSwitchedOffMeanwhileEmptyTheDetails)
+{
+  AddPerson("Ann", "Lee", "May", "6");
+  frmTextNotice& window = Open();
+  ClickLine(window, "lstNotices", 0);
+  Set("BirthAudio=0, AnnAudio=0, CalAudio=0");
+  ClickLine(window, "lstNotices", 0);
+  EXPECT_EQ(Details(window), QStringList());
+}
+
+TEST_F(NoticesTest, AFailureInAClickIsSilent)
+{
+  AddPerson("Ann", "Lee", "May", "6");
+  frmTextNotice& window = Open();
+  folder.Execute("DROP TABLE Ann");
+  folder.Execute("UPDATE People SET BirthDate='sixth'");
+  ClickLine(window, "lstNotices", 0);
+  EXPECT_EQ(Details(window), QStringList());
+}
+
+TEST_F(NoticesTest, ALineIsReachedByKeyboard)
+{
+  AddPerson("Ann", "Lee", "May", "6");
+  AddEvent("Dentist", "May", "2026-05-08");
+  frmTextNotice& window = Open();
+  QWidget& list = Drive::Control(window, "lstNotices");
+  list.setFocus();
+  QTest::keyClick(&list, Qt::Key_Down);
+  QTest::keyClick(&list, Qt::Key_Down);
+  EXPECT_EQ(Details(window), QStringList{"In  3 days - Dentist"});
+}
+
+TEST_F(NoticesTest, ViewQuillmarkBringsTheFrameBackAsItWasClosed)
+{
+  AddPerson("Ann", "Lee", "May", "6");
+  Drive::Click(Open(), "lblOptions_0");
+  EXPECT_EQ(frame.state, WindowState::kNormal);
+  EXPECT_EQ(Window(), nullptr);
+  Set("WindowState=1");
+  Drive::Click(Open(), "lblOptions_0");
+  EXPECT_EQ(frame.state, WindowState::kMaximised);
+  Set("WindowState=NULL");
+  Drive::Click(Open(), "lblOptions_0");
+  EXPECT_EQ(frame.state, WindowState::kMinimised) << "any other value leaves it";
+}
+
+TEST_F(NoticesTest, AManualNoticeLeavesTheFrameAlone)
+{
+  AddPerson("Ann", "Lee", "May", "6");
+  Set("WindowState=1");
+  EXPECT_TRUE(CheckAndSee([](QWidget&) {}));
+  EXPECT_EQ(frame.state, WindowState::kNormal);
+}
+
+TEST_F(NoticesTest, MinimizeAndCloseDoSo)
+{
+  AddPerson("Ann", "Lee", "May", "6");
+  frmTextNotice& window = Open();
+  frame.state = WindowState::kNormal;
+  Drive::Click(window, "lblOptions_1");
+  EXPECT_EQ(frame.state, WindowState::kMinimised);
+  EXPECT_EQ(frame.unloads, 0);
+  EXPECT_EQ(Window(), nullptr);
+  Drive::Click(Open(), "lblOptions_2");
+  EXPECT_EQ(frame.unloads, 1);
+  EXPECT_EQ(Window(), nullptr);
+}
+
+TEST_F(NoticesTest, TheCloseBoxDoesWhatTheFirstCommandDoes)
+{
+  AddPerson("Ann", "Lee", "May", "6");
+  Open().close();
+  EXPECT_EQ(frame.state, WindowState::kNormal);
+  EXPECT_EQ(Window(), nullptr);
+}
+
+TEST_F(NoticesTest, TheNextWindowStartsFromItsDefaults)
+{
+  AddPerson("Ann", "Lee", "May", "6");
+  frmTextNotice& first = Open();
+  ClickLine(first, "lstNotices", 0);
+  Drive::Click(first, "lblOptions_0");
+  frmTextNotice& second = Open();
+  EXPECT_EQ(second.ScaleWidth(), 3750);
+  EXPECT_EQ(Details(second), QStringList());
+  EXPECT_EQ(Caption(second, "lblNotice"), QStringLiteral("Click on a reminder for more information..."));
+  EXPECT_EQ(Sentence(second), QString());
+}
