@@ -116,6 +116,7 @@ void Connection::BeginWrite()
   if (Command::IsRunning() && sqlite3_get_autocommit(handle_) != 0) {
     Execute("BEGIN IMMEDIATE");
     Command::Enlist(*this);
+    keptForCommand_ = shared_from_this();
   }
 }
 
@@ -129,6 +130,7 @@ void Connection::WriteFailed()
 
 void Connection::Settle()
 {
+  const std::shared_ptr<Connection> kept = std::exchange(keptForCommand_, nullptr);
   if (sqlite3_get_autocommit(handle_) != 0) {
     return;
   }
@@ -141,6 +143,7 @@ void Connection::Settle()
 
 void Connection::Abandon() noexcept
 {
+  const std::shared_ptr<Connection> kept = std::exchange(keptForCommand_, nullptr);
   RollBack();
 }
 

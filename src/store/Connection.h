@@ -15,7 +15,7 @@ struct sqlite3_stmt;
 
 // The one connection to a database file, shared by all databases open on it.
 // Failures are thrown as RuntimeErrors of StoreError.
-class Connection : private Command::Participant
+class Connection : public std::enable_shared_from_this<Connection>, private Command::Participant
 {
 public:
   // The open connection to `path`, or a new one. The file must exist and be a database.
@@ -60,6 +60,7 @@ private:
   sqlite3* handle_ = nullptr;
   std::unordered_map<std::string, sqlite3_stmt*> statements_;
   std::map<QString, TableSchema> tables_;
+  std::shared_ptr<Connection> keptForCommand_;  // while a transaction is open
   long commandSeen_ = -1;
   int outsideVersion_ = 0;
   long long epoch_ = 0;

@@ -425,7 +425,7 @@ TEST_F(FormsUiTest, WrappedCaptionMustFitInItsHeight)
   const QByteArray caption = Text("A caption that needs more than one line of it") +
                              "<property name=\"wordWrap\"><bool>true</bool></property>";
   EXPECT_EQ(FaultsOfForm(Make("Label", "lblTitle", Place(10, 10, 150, 60) + caption)), "");
-  EXPECT_EQ(FaultsOfForm(Make("Label", "lblTitle", Place(10, 10, 150, 30) + caption)),
+  EXPECT_EQ(FaultsOfForm(Make("Label", "lblTitle", Place(10, 10, 150, 25) + caption)),
             "lblTitle is too small for its caption");
 }
 

@@ -32,6 +32,7 @@ public:
     for (const char* array : {"lblOptions", "lblNames", "lblAll", "lblDay", "lblData"}) {
       for (int i = 0; i < 3; ++i) {
         auto& label = Add<Label>(QString::fromLatin1(array) + QStringLiteral("_%1").arg(i));
+        label.setText(QStringLiteral(" Print"));
         label.SetForeColor(Qt::black);
         label.SetBackColor(Qt::yellow);
         if (QLatin1String(array) == QLatin1String("lblOptions")) {
@@ -42,12 +43,14 @@ public:
     for (int i = 0; i < 3; ++i) {
       Add<ListBox>(QStringLiteral("lstReminders_%1").arg(i));
     }
-    Add<Label>(QStringLiteral("lblTitle"));
+    Add<Label>(QStringLiteral("lblTitle")).setText(QStringLiteral("Personal Info"));
     Add<ListBox>(QStringLiteral("lstNames"));
     Add<PictureBox>(QStringLiteral("imgTheme"));
     auto& panel = Add<QFrame>(QStringLiteral("fraTools"));
     auto& inner = Add<Label>(QStringLiteral("lblOptions_4"), &panel);
     inner.setGeometry(20, 5, 60, 15);
+    inner.setText(QStringLiteral("Close"));
+    inner.SetRole(QStringLiteral("command"));
     inner.SetForeColor(Qt::black);
   }
 

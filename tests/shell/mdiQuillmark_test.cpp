@@ -1,0 +1,434 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "ShellTest.h"
+
+#include "platform/RuntimeError.h"
+#include "store/DBEngine.h"
+
+#include <QMenu>
+#include <QMenuBar>
+
+#include <fcntl.h>
+#include <sys/file.h>
+#include <unistd.h>
+
+namespace {
+
+const QString kWrongDate = QStringLiteral("Sorry, but Quillmark will not operate at your current PC date setting.");
+const QString kSecondCopy = QStringLiteral("Sorry, but Quillmark is already running. You can't open it a second time.");
+const QString kPoorScreen = QStringLiteral(
+    "Quillmark may not function as expected at your current screen resolution of 640 x 480 pixels. Please increase "
+    "the resolution.");
+const QString kFinishFirst = QStringLiteral("Please finish adding or editing your record before exiting");
+
+// What another running copy holds.
+class OtherCopy
+{
+public:
+  explicit OtherCopy(const QString& folder) : handle_(open(QFile::encodeName(folder).constData(), O_RDONLY))
+  {
+    EXPECT_EQ(flock(handle_, LOCK_EX | LOCK_NB), 0);
+  }
+  ~OtherCopy() { close(handle_); }
+  OtherCopy(const OtherCopy&) = delete;
+  OtherCopy& operator=(const OtherCopy&) = delete;
+
+private:
+  int handle_;
+};
+
+int NumberThrownByStart(const std::function<void()>& start)
+{
+  try {
+    start();
+  } catch (const RuntimeError& error) {
+    return error.Number();
+  }
+  return 0;
+}
+
+QStringList Captions(const QMenu& menu)
+{
+  QStringList captions;
+  for (const QAction* action : menu.actions()) {
+    captions.append(action->isSeparator() ? QStringLiteral("-") : action->text());
+  }
+  return captions;
+}
+
+}
+
+TEST_F(ShellTest, AYearOutsideTheRangeStopsTheProgramAfterTheMessage)
+{
+  for (const QDate day : {QDate(1899, 12, 31), QDate(2051, 1, 1)}) {
+    Clock::StopOn(day);
+    boxes.Expect(kWrongDate);
+    Start();
+    EXPECT_TRUE(frame->HasEnded());
+    EXPECT_FALSE(frame->isVisible());
+    EXPECT_EQ(Forms::Loaded("frmIntro"), nullptr);
+  }
+}
+
+TEST_F(ShellTest, TheFirstAndTheLastYearRun)
+{
+  for (const QDate day : {QDate(1900, 1, 1), QDate(2050, 12, 31)}) {
+    Clock::StopOn(day);
+    Start();
+    EXPECT_FALSE(frame->HasEnded());
+    EXPECT_TRUE(frame->isVisible());
+    frame->Unload();
+    frame.reset();
+  }
+}
+
+TEST_F(ShellTest, OutsideTheRangeNoRemindersAreLookedFor)
+{
+  folder.Execute("INSERT INTO People (FirstName, BirthMonth, BirthDate) VALUES ('Ann', 'January', '1')");
+  Clock::StopOn(QDate(2051, 1, 1));
+  boxes.Expect(kWrongDate);
+  modTextNotices::BirthdayHit = false;
+  Start();
+  EXPECT_FALSE(modTextNotices::BirthdayHit);
+}
+
+TEST_F(ShellTest, ASecondCopyIsToldAndEnds)
+{
+  const OtherCopy other(folder.Path());
+  boxes.Expect(kSecondCopy);
+  Start();
+  EXPECT_TRUE(frame->HasEnded());
+  EXPECT_FALSE(frame->isVisible());
+}
+
+TEST_F(ShellTest, ASecondCopyWithSomethingDueShowsTheMessageAndNoNotices)
+{
+  folder.Execute("INSERT INTO People (FirstName, BirthMonth, BirthDate) VALUES ('Ann', 'May', '5')");
+  const OtherCopy other(folder.Path());
+  boxes.Expect(kSecondCopy);
+  Start();
+  EXPECT_TRUE(frame->HasEnded());
+  for (const QWidget* window : QApplication::topLevelWidgets()) {
+    EXPECT_FALSE(window->isVisible()) << window->objectName().toStdString();
+  }
+}
+
+TEST_F(ShellTest, ACopyInAnotherFolderIsNoSecondCopy)
+{
+  const QTemporaryDir elsewhere;
+  const OtherCopy other(elsewhere.path());
+  Start();
+  EXPECT_FALSE(frame->HasEnded());
+}
+
+TEST_F(ShellTest, AScreenOf640PixelsIsWarnedOfAndTheProgramGoesOn)
+{
+  Screen::Pretend(QRect(0, 0, 640, 480));
+  boxes.Expect(kPoorScreen);
+  Start();
+  EXPECT_TRUE(frame->isVisible());
+}
+
+TEST_F(ShellTest, AScreenOf800PixelsIsNotWarnedOf)
+{
+  Screen::Pretend(QRect(0, 0, 800, 600));
+  Start();
+  EXPECT_EQ(boxes.Count(), 0U);
+}
+
+TEST_F(ShellTest, TheWindowStateIsRestored)
+{
+  Start();
+  EXPECT_EQ(frame->State(), WindowState::kNormal);
+  frame.reset();
+  Set("WindowState=1");
+  Start();
+  EXPECT_EQ(frame->State(), WindowState::kMaximised);
+}
+
+TEST_F(ShellTest, TheWindowStateIsWrittenAtTheClose)
+{
+  Start();
+  frame->SetState(WindowState::kMaximised);
+  frame->close();
+  EXPECT_EQ(Option("WindowState"), 1);
+  frame.reset();
+  Start();
+  frame->SetState(WindowState::kNormal);
+  frame->close();
+  EXPECT_EQ(Option("WindowState"), 0);
+}
+
+TEST_F(ShellTest, AMinimisedCloseLeavesTheWindowState)
+{
+  for (const int state : {0, 1}) {
+    Set(QStringLiteral("WindowState=%1").arg(state));
+    Start();
+    frame->SetState(WindowState::kMinimised);
+    frame->close();
+    EXPECT_TRUE(frame->HasEnded());
+    EXPECT_EQ(Option("WindowState"), state);
+    frame.reset();
+  }
+}
+
+TEST_F(ShellTest, AFrameThatIsTooSmallSnapsJustAboveTheThreshold)
+{
+  Start();
+  frame->resize(600, 500);
+  EXPECT_EQ(TwipsFromPixels(frame->width()), 11505);
+  EXPECT_EQ(TwipsFromPixels(frame->height()), 9090);
+  frame->resize(766, 900);
+  EXPECT_EQ(frame->size(), QSize(767, 900));
+  frame->resize(900, 605);
+  EXPECT_EQ(frame->size(), QSize(900, 606));
+  frame->resize(767, 606);
+  EXPECT_EQ(frame->size(), QSize(767, 606));
+}
+
+TEST_F(ShellTest, TheFrameIsCentredOnTheScreenUnderItsIconAndTitle)
+{
+  Screen::Pretend(QRect(0, 0, 1600, 1200));
+  Start();
+  EXPECT_EQ(frame->pos(), QPoint((1600 - frame->width()) / 2, (1200 - frame->height()) / 2));
+  EXPECT_FALSE(frame->windowIcon().isNull());
+  EXPECT_EQ(frame->windowTitle(), QStringLiteral("Quillmark"));
+}
+
+TEST_F(ShellTest, TheMenuIsCompleteWithItsCaptions)
+{
+  Start();
+  const QMenuBar& bar = *frame->menuBar();
+  QStringList menus;
+  for (const QAction* action : bar.actions()) {
+    menus.append(action->text());
+  }
+  EXPECT_EQ(menus, QStringList({"&Print", "&Options", "&Reminders", "&Database", "&Help"}));
+  const std::pair<const char*, QStringList> submenus[] = {
+      {"mnuPrint",
+       {"&Lists of personal info (addresses, birthdays...)", "&Lists of monthly birthdays and anniversaries",
+        "&Calendar of events"}},
+      {"mnuOptions", {"&Autostart", "&Tips", "&Themes"}},
+      {"mnuTips", {"Pop-up Tips Off", "Pop-up Tips On"}},
+      {"mnuThemes", {"&Sports", "&Garden", "&Music", "&Nature", "&White background", "&Beige background"}},
+      {"mnuAudio", {"&Set reminders", "&Check for reminders"}},
+      {"mnuAdd", {"&Personal records", "&Anniversaries", "-", "&Compact database", "&Back up database"}},
+      {"mnuHelp", {"&Contents", "-", "&About Quillmark"}},
+  };
+  for (const auto& [name, captions] : submenus) {
+    EXPECT_EQ(Captions(*frame->findChild<QMenu*>(name)), captions) << name;
+    EXPECT_NE(frame->findChild<QAction*>(name), nullptr) << name;
+  }
+  EXPECT_EQ(Menu("mnuContents").shortcut(), QKeySequence(Qt::Key_F1));
+}
+
+TEST_F(ShellTest, EntriesOfPagesThatAreNotThereAreDisabled)
+{
+  Start();
+  for (const char* name : {"mnuLists_0", "mnuLists_1", "mnuLists_2", "mnuAutostart", "mnuSetReminders", "mnuPersonal",
+                           "mnuAnn", "mnuCompact", "mnuBackup", "mnuContents", "mnuAbout"}) {
+    EXPECT_FALSE(Menu(name).isEnabled()) << name;
+  }
+  for (const char* name : {"mnuReminderCheck", "mnuToolTips_0", "mnuToolTips_1", "mnuTheme_0", "mnuTheme_5"}) {
+    EXPECT_TRUE(Menu(name).isEnabled()) << name;
+  }
+}
+
+TEST_F(ShellTest, TheThemeAndTheTipsCarryTheirMarks)
+{
+  Set("Theme=3, ToolTips=1");
+  Start();
+  for (int theme = 0; theme < 6; ++theme) {
+    EXPECT_EQ(Menu(QStringLiteral("mnuTheme_%1").arg(theme)).isChecked(), theme == 3) << theme;
+  }
+  EXPECT_TRUE(Menu("mnuToolTips_0").isChecked());
+  EXPECT_FALSE(Menu("mnuToolTips_1").isChecked());
+  Menu("mnuToolTips_1").trigger();
+  EXPECT_FALSE(Menu("mnuToolTips_0").isChecked());
+  EXPECT_TRUE(Menu("mnuToolTips_1").isChecked());
+  EXPECT_EQ(Option("ToolTips"), 0);
+  Menu("mnuToolTips_1").trigger();
+  EXPECT_TRUE(Menu("mnuToolTips_1").isChecked()) << "a second click keeps the mark";
+  Menu("mnuTheme_5").trigger();
+  EXPECT_TRUE(Menu("mnuTheme_5").isChecked());
+  EXPECT_FALSE(Menu("mnuTheme_3").isChecked());
+  EXPECT_EQ(Option("Theme"), 5);
+}
+
+TEST_F(ShellTest, AThemeThatIsNoneEndsTheStart)
+{
+  for (const char* theme : {"9", "-1", "6"}) {
+    Set(QStringLiteral("Theme=") + theme);
+    EXPECT_EQ(NumberThrownByStart([&] { Start(); }), 340) << theme;
+    frame.reset();
+  }
+}
+
+TEST_F(ShellTest, AThemeThatIsNoneEndsTheStartAlsoWithSomethingDue)
+{
+  folder.Execute("INSERT INTO People (FirstName, BirthMonth, BirthDate) VALUES ('Ann', 'May', '5')");
+  Set("Theme=9");
+  EXPECT_EQ(NumberThrownByStart([&] { Start(); }), 340);
+}
+
+TEST_F(ShellTest, WhatIsMissingAtTheStartIsNamedByItsNumber)
+{
+  Set("ToolTips=NULL");
+  EXPECT_EQ(NumberThrownByStart([&] { Start(); }), 94);
+  frame.reset();
+  Set("ToolTips=0");
+  QFile::remove(folder.File("/animp.ico"));
+  EXPECT_EQ(NumberThrownByStart([&] { Start(); }), 53);
+  frame.reset();
+  folder.Execute("DELETE FROM Options");
+  EXPECT_EQ(NumberThrownByStart([&] { Start(); }), 3021);
+  frame.reset();
+  folder.Execute("DROP TABLE Options");
+  EXPECT_EQ(NumberThrownByStart([&] { Start(); }), 3078);
+  frame.reset();
+  QFile::remove(folder.DatabasePath());
+  EXPECT_EQ(NumberThrownByStart([&] { Start(); }), 3024);
+  EXPECT_FALSE(QFile::exists(folder.DatabasePath())) << "the program makes no database";
+}
+
+TEST_F(ShellTest, AFileThatIsNoDatabaseStaysAsItWas)
+{
+  const QByteArray text("Dear diary, today I saw a butterfly.\n");
+  QFile file(folder.DatabasePath());
+  ASSERT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
+  file.write(text.repeated(100));
+  file.close();
+  EXPECT_EQ(NumberThrownByStart([&] { Start(); }), 3343);
+  ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+  EXPECT_EQ(file.readAll(), text.repeated(100));
+}
+
+TEST_F(ShellTest, SomethingDueMinimisesTheFrameWhateverItsWindowState)
+{
+  folder.Execute("INSERT INTO People (FirstName, BirthMonth, BirthDate) VALUES ('Ann', 'May', '5')");
+  Set("WindowState=1");
+  Start();
+  EXPECT_EQ(frame->State(), WindowState::kMinimised);
+  EXPECT_EQ(Forms::AllLoaded().size(), 2U);
+  Drive::Click(*Forms::Loaded("frmTextNotice"), "lblOptions_0");
+  EXPECT_EQ(frame->State(), WindowState::kMaximised);
+  EXPECT_EQ(Option("WindowState"), 1);
+}
+
+TEST_F(ShellTest, CloseQuillmarkOnTheNoticesEndsTheProgram)
+{
+  folder.Execute("INSERT INTO People (FirstName, BirthMonth, BirthDate) VALUES ('Ann', 'May', '5')");
+  Set("WindowState=1");
+  Start();
+  Drive::Click(*Forms::Loaded("frmTextNotice"), "lblOptions_2");
+  EXPECT_TRUE(frame->HasEnded());
+  EXPECT_TRUE(Forms::AllLoaded().empty());
+  EXPECT_EQ(Option("WindowState"), 1) << "minimised, it writes nothing";
+}
+
+TEST_F(ShellTest, TheMenuChecksForReminders)
+{
+  Start();
+  bool seen = false;
+  Drive::WhenShown("frmTextNotice", [&](QWidget& form) {
+    seen = true;
+    EXPECT_EQ(static_cast<QLabel&>(Drive::Control(form, "lblNotice")).text(),
+              QStringLiteral("According to your reminder settings, you have no events coming up"));
+    Drive::Click(form, "lblOptions_0");
+  });
+  Menu("mnuReminderCheck").trigger();
+  EXPECT_TRUE(seen);
+}
+
+TEST_F(ShellTest, AnOpenEditRefusesTheExitAndThePageSwitch)
+{
+  for (const char* panel : {"fraEdit", "fraAdd"}) {
+    RegisterPage("frmNew", Form::Kind::kPage, {"fraEdit", "fraAdd"});
+    RegisterPage("frmAnn");
+    Start();
+    Menu("mnuPersonal").trigger();
+    Form& editor = *Forms::Loaded("frmNew");
+    editor.Control(panel)->show();
+    modID::SelectedPersonID = 7;
+
+    boxes.Expect(kFinishFirst);
+    frame->close();
+    EXPECT_FALSE(frame->HasEnded());
+    EXPECT_TRUE(frame->isVisible());
+
+    boxes.Expect(kFinishFirst);
+    Menu("mnuAnn").trigger();
+    EXPECT_EQ(Forms::Loaded("frmNew"), &editor) << "nothing is unloaded";
+    EXPECT_EQ(Forms::Loaded("frmAnn"), nullptr);
+    EXPECT_EQ(modID::SelectedPersonID, 7);
+
+    editor.Control(panel)->hide();
+    frame->close();
+    EXPECT_TRUE(frame->HasEnded());
+    frame.reset();
+  }
+  modID::SelectedPersonID = 0;
+}
+
+TEST_F(ShellTest, OnePageIsOpenAtATime)
+{
+  RegisterPage("frmNew");
+  RegisterPage("frmAnn");
+  Start();
+  Menu("mnuPersonal").trigger();
+  EXPECT_TRUE(Forms::Loaded("frmNew")->isVisible());
+  EXPECT_FALSE(MainPage().isVisible());
+  modID::SelectedPersonID = 7;
+  Menu("mnuAnn").trigger();
+  EXPECT_EQ(Forms::Loaded("frmNew"), nullptr);
+  EXPECT_TRUE(Forms::Loaded("frmAnn")->isVisible());
+  EXPECT_EQ(Forms::Loaded("frmAnn")->size(), frame->centralWidget()->size());
+  EXPECT_EQ(modID::SelectedPersonID, 0);
+  Forms::Loaded("frmAnn")->Unload();
+  MainPage().Show();
+  EXPECT_TRUE(MainPage().isVisible());
+}
+
+TEST_F(ShellTest, TheListEntriesOpenTheirPageWithThePrintPanel)
+{
+  RegisterPage("frmQuillmark", Form::Kind::kPage, {"fraPrint"});
+  RegisterPage("frmSpecial", Form::Kind::kPage, {"fraPrint"});
+  Start();
+  for (const auto& [menu, page] : {std::pair("mnuLists_0", "frmQuillmark"), std::pair("mnuLists_1", "frmSpecial")}) {
+    Menu(menu).trigger();
+    EXPECT_TRUE(Forms::Loaded(page)->Control("fraPrint")->isVisible()) << page;
+  }
+}
+
+TEST_F(ShellTest, CalendarOfEventsOpensTheCalendarAndThenItsPrintDialog)
+{
+  RegisterPage("frmReminders");
+  RegisterPage("frmPrintCal", Form::Kind::kWindow);
+  Start();
+  bool seen = false;
+  Drive::WhenShown("frmPrintCal", [&](QWidget& dialog) {
+    seen = true;
+    EXPECT_TRUE(dialog.isModal());
+    EXPECT_TRUE(Forms::Loaded("frmReminders")->isVisible());
+    dialog.close();
+  });
+  Menu("mnuLists_2").trigger();
+  EXPECT_TRUE(seen);
+}
+
+TEST_F(ShellTest, ALoadedNoticeAndAllPagesGoWithTheFrame)
+{
+  RegisterPage("frmNew");
+  Start();
+  Menu("mnuPersonal").trigger();
+  frame->close();
+  EXPECT_TRUE(Forms::AllLoaded().empty());
+}
+
+TEST_F(ShellTest, TheClosedFrameLetsGoOfTheDatabase)
+{
+  Start();
+  frame->close();
+  EXPECT_NO_THROW(DBEngine::CompactDatabase(folder.DatabasePath(), folder.File("/copy.mdb")));
+}
