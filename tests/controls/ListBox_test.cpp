@@ -217,6 +217,16 @@ TEST_F(ListBoxTest, LineClickedWithAModifierKeyIsSelected)
   }
 }
 
+TEST_F(ListBoxTest, RightButtonChoosesNothing)
+{
+  Show();
+  list_.SetListIndex(1);
+  clicks_.clear();
+  ClickLine(list_, 3, Qt::RightButton);
+  EXPECT_EQ(list_.ListIndex(), 1);
+  EXPECT_EQ(clicks_.count(), 0);
+}
+
 TEST_F(ListBoxTest, HandlerNeverSeesAClickWithoutALine)
 {
   Show();
@@ -257,7 +267,8 @@ TEST_F(ListBoxTest, LineIsChosenByKeyboard)
   Show();
   list_.SetListIndex(1);
   const std::vector<Case> cases = {
-      {Qt::Key_Down, 2, 2}, {Qt::Key_End, 3, 3}, {Qt::Key_Down, 3, 3}, {Qt::Key_Home, 0, 4}, {Qt::Key_Up, 0, 4},
+      {Qt::Key_Down, 2, 2}, {Qt::Key_End, 3, 3}, {Qt::Key_Down, 3, 3},
+      {Qt::Key_Home, 0, 4}, {Qt::Key_Up, 0, 4},  {Qt::Key_B, 1, 5},
   };
   for (const Case& c : cases) {
     QTest::keyClick(&list_, c.key);
@@ -427,7 +438,7 @@ TEST(LongListBox, IsFilledAtOnceAndShownAboutAsFastAsAPlainView)
     view.setUniformItemSizes(true);
     view.setModel(&model);
     view.resize(200, 400);
-    model.setStringList(lines);
+    model.setStringList(QStringList(lines.begin(), lines.end()));
     ShowOnce(view);
   });
   const double ours = Nanoseconds([&] {

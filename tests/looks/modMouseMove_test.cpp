@@ -492,3 +492,19 @@ TEST_F(MouseMoveTest, LooksChangeWithTheProgramsStyleToo)
   EXPECT_EQ(Underlined(), "");
   EXPECT_EQ(At("lblNames_0").font().pointSize(), 11);
 }
+
+TEST_F(MouseMoveTest, ListThatIsLitIsSeenToBe)
+{
+  Style::Apply(*qApp);
+  Show("frmReminders");
+  const auto ground = [this] {
+    QWidget& list = List("lstReminders_0");
+    return list.grab().toImage().pixelColor(list.width() / 2, list.height() / 2);
+  };
+  ASSERT_NE(ground(), kLitList);
+  modMouseMove::Highlight(*form_, Row::kReminders, 0);
+  Light("lstReminders_0");
+  EXPECT_EQ(ground(), kLitList);
+  modMouseMove::Reset(*form_, Row::kReminders);
+  EXPECT_EQ(ground(), QColor(Qt::white));
+}

@@ -180,7 +180,7 @@ TEST(ReadRatios, CutsAtFixedPlaces)
       {"left far below 0", "-1.2347.2000.3000.4000", {-1.23, 47.2, 0.3, 0.4}},
       {"a minus drawn into the field behind", "1.0000-.2500.5000.1000", {1, 0, 0.5, 0.1}},
       {"no tag", "", {0, 0, 0, 0}},
-      {"a date for a tag", "3/15/2002", {3, 0, 0, 0}},
+      {"a date for a tag", "3/15/2002", {3, 2002, 0, 0}},
   };
   for (const Case& c : cases) {
     const std::array<double, 4> ratios = modResize::ReadRatios(QString::fromLatin1(c.tag));

@@ -1,0 +1,151 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "VirtualDesktop.h"
+
+#include <QRegularExpression>
+#include <QTest>
+
+#include <gtest/gtest.h>
+#include <stdexcept>
+
+namespace {
+
+constexpr int kPatience = 30000;
+
+QString Output(QProcess& process)
+{
+  if (!process.waitForFinished(kPatience)) {
+    process.kill();
+    process.waitForFinished();
+  }
+  return QString::fromUtf8(process.readAllStandardOutput()).trimmed();
+}
+
+}
+
+VirtualDesktop::VirtualDesktop(const QString& screen) : environment_(QProcessEnvironment::systemEnvironment())
+{
+  environment_.remove(QStringLiteral("QT_QPA_PLATFORM"));
+  environment_.remove(QStringLiteral("WAYLAND_DISPLAY"));
+  environment_.insert(QStringLiteral("XDG_RUNTIME_DIR"), directory_.path());
+  environment_.insert(QStringLiteral("PULSE_SERVER"), QStringLiteral("unix:/nowhere"));
+  environment_.insert(QStringLiteral("ASAN_OPTIONS"), QStringLiteral("detect_leaks=0"));
+  folder_ = directory_.filePath(QStringLiteral("Quillmark"));
+  StartDisplay(screen);
+  CopyLaidFolder();
+}
+
+VirtualDesktop::~VirtualDesktop()
+{
+  for (QProcess* process : {&windowManager_, &display_}) {
+    process->terminate();
+    process->waitForFinished(kPatience);
+  }
+}
+
+void VirtualDesktop::StartDisplay(const QString& screen)
+{
+  display_.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+  display_.start(QStringLiteral("Xvfb"), {"-displayfd", "1", "-screen", "0", screen, "-nolisten", "tcp"});
+  if (!display_.waitForReadyRead(kPatience)) {
+    throw std::runtime_error("Xvfb does not start");
+  }
+  environment_.insert(QStringLiteral("DISPLAY"),
+                      QStringLiteral(":") + QString::fromUtf8(display_.readLine()).trimmed());
+  windowManager_.setProcessEnvironment(environment_);
+  windowManager_.start(QStringLiteral("openbox"), QStringList());
+  const bool managed = QTest::qWaitFor([this] {
+    return Run("xprop", {"-root", "_NET_SUPPORTING_WM_CHECK"}).contains(QLatin1String("window id"));
+  });
+  if (!managed) {
+    throw std::runtime_error("the window manager does not start");
+  }
+}
+
+void VirtualDesktop::CopyLaidFolder()
+{
+  QProcess copy;
+  copy.start(QStringLiteral("cp"), {"-r", QStringLiteral(QUILLMARK_LAID_FOLDER), folder_});
+  Output(copy);
+  RunSql("DELETE FROM People; DELETE FROM Ann; DELETE FROM Reminders; UPDATE Options SET WindowState=0;");
+}
+
+void VirtualDesktop::SetEnvironment(const QString& name, const QString& value)
+{
+  environment_.insert(name, value);
+}
+
+void VirtualDesktop::RunSql(const QString& sql) const
+{
+  static_cast<void>(QuerySql(sql));
+}
+
+QString VirtualDesktop::QuerySql(const QString& sql) const
+{
+  return Run("sqlite3", {File("/quillmark2002.mdb"), sql});
+}
+
+std::unique_ptr<QProcess> VirtualDesktop::StartProgram(const QStringList& launcher) const
+{
+  auto program = std::make_unique<QProcess>();
+  program->setProcessEnvironment(environment_);
+  program->setProcessChannelMode(QProcess::ForwardedChannels);
+  QStringList command = launcher;
+  command.append(File(QStringLiteral("/quillmark")));
+  program->start(command.first(), command.mid(1));
+  EXPECT_TRUE(program->waitForStarted(kPatience));
+  return program;
+}
+
+QString VirtualDesktop::Run(const QString& tool, const QStringList& arguments) const
+{
+  QProcess process;
+  process.setProcessEnvironment(environment_);
+  process.start(tool, arguments);
+  return Output(process);
+}
+
+bool VirtualDesktop::HasVisibleWindow(const QProcess& program, const QString& title) const
+{
+  const QString pattern = QStringLiteral("^%1$").arg(QRegularExpression::escape(title));
+  return !Run("xdotool",
+              {"search", "--onlyvisible", "--all", "--pid", QString::number(program.processId()), "--name", pattern})
+              .isEmpty();
+}
+
+QStringList VirtualDesktop::Windows(const QProcess& program, const QString& title) const
+{
+  const QString pattern = QStringLiteral("^%1$").arg(QRegularExpression::escape(title));
+  return Run("xdotool", {"search", "--all", "--pid", QString::number(program.processId()), "--name", pattern})
+      .split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+}
+
+std::optional<QString> VirtualDesktop::AwaitWindow(const QProcess& program, const QString& title) const
+{
+  const QString pattern = QStringLiteral("^%1$").arg(QRegularExpression::escape(title));
+  QString found;
+  static_cast<void>(QTest::qWaitFor(
+      [&] {
+        found = Run("xdotool", {"search", "--onlyvisible", "--all", "--pid", QString::number(program.processId()),
+                                "--name", pattern});
+        return !found.isEmpty();
+      },
+      kPatience));
+  return found.isEmpty() ? std::nullopt : std::optional(found.section(QLatin1Char('\n'), 0, 0));
+}
+
+QString VirtualDesktop::Property(const QString& window, const QString& name) const
+{
+  return Run("xprop", {"-id", window, name});
+}
+
+void VirtualDesktop::Press(const QString& window, const QString& key) const
+{
+  Run("xdotool", {"windowfocus", "--sync", window, "key", "--window", window, key});
+}
+
+void VirtualDesktop::ClickAt(const QString& window, int x, int y) const
+{
+  Run("xdotool", {"mousemove", "--sync", "--window", window, QString::number(x), QString::number(y), "click", "1"});
+}
