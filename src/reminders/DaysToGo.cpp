@@ -16,15 +16,36 @@ constexpr std::array<QLatin1StringView, 12> kMonths = {
     QLatin1StringView("July"),    QLatin1StringView("August"),   QLatin1StringView("September"),
     QLatin1StringView("October"), QLatin1StringView("November"), QLatin1StringView("December")};
 
-bool IsUnknown(const QVariant& value)
+// A value's text without a copy of it; empty for Null.
+QStringView TextOf(const QVariant& value, QString& holder)
 {
-  return value.isNull() || (value.typeId() == QMetaType::QString && value.toString().isEmpty());
+  if (value.typeId() == QMetaType::QString) {
+    return *static_cast<const QString*>(value.constData());
+  }
+  holder = value.toString();
+  return holder;
 }
 
-int ToNumber(const QVariant& value)
+// A day as it is nearly always written; -1 for anything else.
+int ToPlainDay(QStringView text)
 {
+  int number = 0;
+  for (const QChar c : text) {
+    if (text.size() > 2 || c < QLatin1Char('0') || c > QLatin1Char('9')) {
+      return -1;
+    }
+    number = number * 10 + (c.unicode() - '0');
+  }
+  return number;
+}
+
+int ToNumber(QStringView text)
+{
+  if (const int day = ToPlainDay(text); day >= 0) {
+    return day;
+  }
   bool isNumber = false;
-  const int number = value.toString().trimmed().toInt(&isNumber);
+  const int number = text.trimmed().toInt(&isNumber);
   if (!isNumber) {
     RaiseError(ErrorNumber::kTypeMismatch);
   }
@@ -42,8 +63,16 @@ QDate DateSerial(int year, int month, int day)
   return date;
 }
 
-void DaysToGo::ReadMonth(const QString& name)
+DaysToGo::DaysToGo(QDate today) : today_(today)
 {
+  counted_.fill(kNotCounted);
+}
+
+void DaysToGo::ReadMonth(QStringView name)
+{
+  if (month_ > 0 && name == kMonths[static_cast<std::size_t>(month_ - 1)]) {
+    return;
+  }
   const auto found = std::find(kMonths.begin(), kMonths.end(), name);
   if (found != kMonths.end()) {
     month_ = static_cast<int>(found - kMonths.begin()) + 1;
@@ -55,29 +84,48 @@ int DaysToGo::DaysTo(QDate date) const
   return static_cast<int>(today_.daysTo(date));
 }
 
-std::optional<int> DaysToGo::ToYearly(const QVariant& month, const QVariant& day)
+int DaysToGo::DaysToDayOfYear(int day) const
 {
-  if (IsUnknown(month) || IsUnknown(day)) {
-    return std::nullopt;
-  }
-  ReadMonth(month.toString());
-  const int dayNumber = ToNumber(day);
   const int year = today_.year();
-  if (month_ == 2 && dayNumber == 29 && year % 4 != 0) {
+  if (month_ == 2 && day == 29 && year % 4 != 0) {
     return DaysTo(QDate(year, 3, 1));
   }
   if (today_.month() == 12 && month_ == 1) {
-    return DaysTo(DateSerial(year + 1, 1, dayNumber));
+    return DaysTo(DateSerial(year + 1, 1, day));
   }
-  return DaysTo(DateSerial(year, month_, dayNumber));
+  return DaysTo(DateSerial(year, month_, day));
+}
+
+std::optional<int> DaysToGo::ToYearly(const QVariant& month, const QVariant& day)
+{
+  QString monthHolder;
+  QString dayHolder;
+  const QStringView monthText = TextOf(month, monthHolder);
+  const QStringView dayText = TextOf(day, dayHolder);
+  if (monthText.isEmpty() || dayText.isEmpty()) {
+    return std::nullopt;
+  }
+  ReadMonth(monthText);
+  const int dayNumber = ToNumber(dayText);
+  if (dayNumber < 0 || dayNumber >= kKnownDays) {
+    return DaysToDayOfYear(dayNumber);
+  }
+  int& days = counted_[static_cast<std::size_t>(month_ * kKnownDays + dayNumber)];
+  if (days == kNotCounted) {
+    days = DaysToDayOfYear(dayNumber);
+  }
+  return days;
 }
 
 std::optional<int> DaysToGo::ToEvent(const QVariant& month, const QVariant& date)
 {
-  if (IsUnknown(month) || IsUnknown(date)) {
+  QString monthHolder;
+  QString dateHolder;
+  const QStringView monthText = TextOf(month, monthHolder);
+  if (monthText.isEmpty() || TextOf(date, dateHolder).isEmpty()) {
     return std::nullopt;
   }
-  ReadMonth(month.toString());
+  ReadMonth(monthText);
   const QDate day = date.toDate();
   if (!day.isValid()) {
     RaiseError(ErrorNumber::kTypeMismatch);

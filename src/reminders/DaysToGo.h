@@ -6,6 +6,8 @@
 #include <QDate>
 #include <QVariant>
 
+#include <array>
+#include <climits>
 #include <optional>
 
 // Counts the days from today to the occasions of one query, row by row. A month name
@@ -14,7 +16,7 @@
 class DaysToGo
 {
 public:
-  explicit DaysToGo(QDate today) : today_(today) {}
+  explicit DaysToGo(QDate today);
 
   // For a birthday or an anniversary, by the full English name of its month and its day
   // as text. Negative once it is over this year; only January is seen ahead, from
@@ -26,11 +28,17 @@ public:
   [[nodiscard]] std::optional<int> ToEvent(const QVariant& month, const QVariant& date);
 
 private:
-  void ReadMonth(const QString& name);
+  void ReadMonth(QStringView name);
   [[nodiscard]] int DaysTo(QDate date) const;
+  [[nodiscard]] int DaysToDayOfYear(int day) const;
+
+  // The days to a month and day that were counted before; there are few, and many rows.
+  static constexpr int kKnownDays = 32;
+  static constexpr int kNotCounted = INT_MIN;
 
   QDate today_;
   int month_ = 0;
+  std::array<int, 13 * kKnownDays> counted_;
 };
 
 // The date of a year, month and day, where a month or a day too many carries over.

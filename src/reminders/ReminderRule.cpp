@@ -34,21 +34,22 @@ bool IsFalse(const QVariant& value)
 
 bool ReminderRule::HoldsOnce(int daysToGo) const
 {
-  return IsTrue(on) && IsTrue(once) && length == daysToGo;
+  return on && once && length == daysToGo;
 }
 
 bool ReminderRule::HoldsMany(int daysToGo) const
 {
-  return IsTrue(on) && IsTrue(many) && length && daysToGo >= 0 && daysToGo <= *length;
+  return on && many && length && daysToGo >= 0 && daysToGo <= *length;
 }
 
 ReminderRule ReadRule(Recordset& options, ReminderKind kind)
 {
   const QString prefix = Prefix(kind);
   const QVariant length = options.Fields(prefix + QLatin1String("Length")).Value();
-  return {options.Fields(prefix + QLatin1String("Audio")).Value(),
-          options.Fields(prefix + QLatin1String("Once")).Value(),
-          options.Fields(prefix + QLatin1String("Many")).Value(),
+  const auto isTrue = [&](const char* column) {
+    return IsTrue(options.Fields(prefix + QLatin1String(column)).Value());
+  };
+  return {isTrue("Audio"), isTrue("Once"), isTrue("Many"),
           length.isNull() ? std::nullopt : std::optional<int>(length.toInt())};
 }
 

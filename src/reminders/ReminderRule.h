@@ -20,9 +20,9 @@ enum class ReminderKind
 // When to remind of one kind, as the settings say.
 struct ReminderRule
 {
-  QVariant on;
-  QVariant once;
-  QVariant many;
+  bool on = false;
+  bool once = false;
+  bool many = false;
   std::optional<int> length;
 
   // The day that lies exactly `length` days before the occasion.

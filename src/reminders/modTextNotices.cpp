@@ -34,8 +34,8 @@ bool FindHit(Recordset& rows, const Scan& scan, const ReminderRule& rule)
   const Field& month = rows.Fields(QLatin1String(scan.month));
   const Field& day = rows.Fields(QLatin1String(scan.day));
   for (; !rows.Eof(); rows.MoveNext()) {
-    const std::optional<int> daysToGo = scan.kind == ReminderKind::kEvent ? days.ToEvent(month.Value(), day.Value())
-                                                                          : days.ToYearly(month.Value(), day.Value());
+    const std::optional<int> daysToGo = scan.kind == ReminderKind::kEvent ? days.ToEvent(month.Peek(), day.Peek())
+                                                                          : days.ToYearly(month.Peek(), day.Peek());
     if (daysToGo && rule.Holds(*daysToGo)) {
       return true;
     }

@@ -112,7 +112,7 @@ bool Dynaset::IsThere(qsizetype position)
   return NothingChanged() || reader_.Exists(std::span(Keys()).subspan(static_cast<std::size_t>(position)));
 }
 
-QVariant Dynaset::ReadValue(int column)
+const QVariant& Dynaset::ReadValue(int column)
 {
   const std::span<const qint64> ahead = Ahead();
   const int place = keptFor_[static_cast<std::size_t>(column)];

@@ -20,7 +20,7 @@ public:
 
 protected:
   [[nodiscard]] bool IsThere(qsizetype position) override;
-  [[nodiscard]] QVariant ReadValue(int column) override;
+  [[nodiscard]] const QVariant& ReadValue(int column) override;
 
 private:
   void ReadOrder(const Dialect::Select& select);

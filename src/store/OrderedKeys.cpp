@@ -7,6 +7,7 @@
 #include "store/Statement.h"
 
 #include <algorithm>
+#include <array>
 #include <numeric>
 #include <string>
 #include <unordered_map>
@@ -27,10 +28,15 @@ public:
 
   std::uint32_t NumberOf(const Statement& statement, int column)
   {
-    if (statement.IsNull(column)) {
-      return 0;
+    switch (statement.KindOf(column)) {
+      case Statement::Kind::kNull:
+        return 0;
+      case Statement::Kind::kNumber:
+        return NumberOfNumber(statement, column);
+      case Statement::Kind::kText:
+        break;
     }
-    return statement.IsNumber(column) ? NumberOfNumber(statement, column) : NumberOfText(statement.Bytes(column));
+    return NumberOfText(statement.Bytes(column));
   }
 
   [[nodiscard]] std::size_t Size() const { return values_.size(); }
@@ -87,14 +93,17 @@ private:
 
   std::uint32_t NumberOfText(std::string_view text)
   {
-    const auto known = texts_.find(text);
-    if (known != texts_.end()) {
-      return known->second;
+    Seen& seen = seen_[SlotFor(text)];
+    if (seen.text != nullptr && *seen.text == text) {
+      return seen.number;
     }
-    const auto number = static_cast<std::uint32_t>(values_.size());
-    texts_.emplace(std::string(text), number);
-    values_.push_back({Kind::kText, 0, TextOrder::Key(text), {}});
-    return number;
+    auto known = texts_.find(text);
+    if (known == texts_.end()) {
+      known = texts_.emplace(std::string(text), static_cast<std::uint32_t>(values_.size())).first;
+      values_.push_back({Kind::kText, 0, TextOrder::Key(text), {}});
+    }
+    seen = {&known->first, known->second};
+    return known->second;
   }
 
   std::uint32_t NumberOfNumber(const Statement& statement, int column)
@@ -106,7 +115,27 @@ private:
     return known->second;
   }
 
+  // A text that was met lately, found again without the map: most columns that rows
+  // are ordered by hold few different ones.
+  struct Seen
+  {
+    const std::string* text = nullptr;
+    std::uint32_t number = 0;
+  };
+
+  static constexpr std::size_t kSlots = 256;
+
+  static std::size_t SlotFor(std::string_view text)
+  {
+    if (text.empty()) {
+      return 0;
+    }
+    const auto byte = [&](std::size_t at) { return static_cast<std::size_t>(static_cast<unsigned char>(text[at])); };
+    return (text.size() * 61 + byte(0) * 7 + byte(text.size() / 2) * 29 + byte(text.size() - 1) * 3) % kSlots;
+  }
+
   ColumnType type_;
+  std::array<Seen, kSlots> seen_{};
   std::vector<Value> values_;
   std::unordered_map<std::string, std::uint32_t, TextHash, std::equal_to<>> texts_;
   std::unordered_map<double, std::uint32_t> numbers_;

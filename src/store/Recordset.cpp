@@ -14,6 +14,11 @@ QVariant Field::Value() const
   return owner_->Value(column_);
 }
 
+const QVariant& Field::Peek() const
+{
+  return owner_->Value(column_);
+}
+
 void Field::SetValue(const QVariant& value)
 {
   owner_->SetValue(column_, value);
@@ -60,13 +65,17 @@ Field& Recordset::Fields(const QString& name)
   StoreError::Raise(StoreError::kUnknownItem, name);
 }
 
-QVariant Recordset::Value(int column)
+const QVariant& Recordset::Value(int column)
 {
+  if (mode_ == Mode::kReading) {
+    return ReadValue(column);
+  }
   const auto pending = pending_.find(column);
   if (pending != pending_.end()) {
     return pending->second;
   }
-  return mode_ == Mode::kAdding ? QVariant() : ReadValue(column);
+  static const QVariant null;
+  return mode_ == Mode::kAdding ? null : ReadValue(column);
 }
 
 void Recordset::SetValue(int column, const QVariant& value)
@@ -82,8 +91,10 @@ void Recordset::SetValue(int column, const QVariant& value)
 
 void Recordset::ForgetEdit()
 {
-  mode_ = Mode::kReading;
-  pending_.clear();
+  if (mode_ != Mode::kReading) {
+    mode_ = Mode::kReading;
+    pending_.clear();
+  }
 }
 
 void Recordset::MustBeUpdatable() const

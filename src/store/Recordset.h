@@ -84,7 +84,7 @@ protected:
 
   // The current row's key. Throws if there is none.
   [[nodiscard]] virtual qint64 CurrentKey() = 0;
-  [[nodiscard]] virtual QVariant ReadValue(int column) = 0;
+  [[nodiscard]] virtual const QVariant& ReadValue(int column) = 0;
   virtual void RowAdded(qint64 key) = 0;
   virtual void RowDeleted() = 0;
 
@@ -98,7 +98,7 @@ private:
     kAdding,
   };
 
-  [[nodiscard]] QVariant Value(int column);
+  [[nodiscard]] const QVariant& Value(int column);
   void SetValue(int column, const QVariant& value);
   void MustBeUpdatable() const;
   void WriteEdit();

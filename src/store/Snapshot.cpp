@@ -59,7 +59,7 @@ bool Snapshot::IsThere(qsizetype)
   return true;
 }
 
-QVariant Snapshot::ReadValue(int column)
+const QVariant& Snapshot::ReadValue(int column)
 {
   return rows_[static_cast<std::size_t>(Ahead().front())][static_cast<std::size_t>(column)];
 }

@@ -14,7 +14,7 @@ public:
 
 protected:
   [[nodiscard]] bool IsThere(qsizetype position) override;
-  [[nodiscard]] QVariant ReadValue(int column) override;
+  [[nodiscard]] const QVariant& ReadValue(int column) override;
   [[nodiscard]] bool IsUpdatable() const override;
 
 private:

@@ -77,15 +77,27 @@ void Statement::Restart()
   sqlite3_reset(statement_);
 }
 
+Statement::Kind Statement::KindOf(int column) const
+{
+  switch (sqlite3_column_type(statement_, column)) {
+    case SQLITE_NULL:
+      return Kind::kNull;
+    case SQLITE_INTEGER:
+    case SQLITE_FLOAT:
+      return Kind::kNumber;
+    default:
+      return Kind::kText;
+  }
+}
+
 bool Statement::IsNull(int column) const
 {
-  return sqlite3_column_type(statement_, column) == SQLITE_NULL;
+  return KindOf(column) == Kind::kNull;
 }
 
 bool Statement::IsNumber(int column) const
 {
-  const int type = sqlite3_column_type(statement_, column);
-  return type == SQLITE_INTEGER || type == SQLITE_FLOAT;
+  return KindOf(column) == Kind::kNumber;
 }
 
 qint64 Statement::Integer(int column) const

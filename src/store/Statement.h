@@ -30,7 +30,15 @@ public:
   // Runs again with the values bound so far.
   void Restart();
 
+  enum class Kind
+  {
+    kNull,
+    kNumber,
+    kText,
+  };
+
   // Columns of the row, from 0 on.
+  [[nodiscard]] Kind KindOf(int column) const;
   [[nodiscard]] bool IsNull(int column) const;
   [[nodiscard]] bool IsNumber(int column) const;
   [[nodiscard]] qint64 Integer(int column) const;

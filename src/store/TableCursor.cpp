@@ -293,7 +293,7 @@ qint64 TableCursor::CurrentKey()
   return current_.key;
 }
 
-QVariant TableCursor::ReadValue(int column)
+const QVariant& TableCursor::ReadValue(int column)
 {
   MustHaveCurrent();
   const QVariant* value = reader_.Value(std::span(windowKeys_).subspan(inWindow_), column);

@@ -33,7 +33,7 @@ public:
 
 protected:
   [[nodiscard]] qint64 CurrentKey() override;
-  [[nodiscard]] QVariant ReadValue(int column) override;
+  [[nodiscard]] const QVariant& ReadValue(int column) override;
   void RowAdded(qint64 key) override;
   void RowDeleted() override;
 

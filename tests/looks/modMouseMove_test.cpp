@@ -14,6 +14,7 @@
 #include <gtest/gtest.h>
 
 #include <QFrame>
+#include <QMouseEvent>
 
 namespace {
 
@@ -403,6 +404,18 @@ TEST_F(MouseMoveTest, TwoKindsAreNeverLitTogether)
     }
     form_->Unload();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  }
+}
+
+TEST_F(MouseMoveTest, OtherKindsGoOutEvenIfTheirLeavingWasNotTold)
+{
+  Load("frmQuillmark");
+  for (const char* name : {"lblNames_0", "lblOptions_1", "lblAll_1", "lblNames_1", "lblAll_0"}) {
+    Label& label = At(name);
+    const QPoint middle = label.rect().center();
+    QMouseEvent move(QEvent::MouseMove, middle, label.mapToGlobal(middle), Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(&label, &move);
+    EXPECT_EQ(Lit(), name);
   }
 }
 

@@ -261,7 +261,11 @@ TEST_F(ThemesTest, BackgroundTurnsFromWhiteToBeigeAndBackAndLeavesOtherColours)
     QColor before;
     QColor after;
   };
-  std::vector<Case> cases = {{kBeigeTheme, kWhite, kBeige}, {kBeigeTheme, kBeige, kBeige}, {kBeigeTheme, yellow, yellow}};
+  std::vector<Case> cases = {
+      {kBeigeTheme, kWhite, kBeige},
+      {kBeigeTheme, kBeige, kBeige},
+      {kBeigeTheme, yellow, yellow},
+  };
   for (const int theme : {kSports, kGarden, kMusic, kNature, kWhiteTheme}) {
     cases.push_back({theme, kWhite, kWhite});
     cases.push_back({theme, kBeige, kWhite});
@@ -304,9 +308,12 @@ TEST_F(ThemesTest, PersonalAndOccasionPagesAtABackgroundTheme)
     for (const auto& [theme, colour] : {std::pair{kWhiteTheme, kWhite}, std::pair{kBeigeTheme, kBeige}}) {
       SCOPED_TRACE(name);
       const Form& form = Load(name);
+      Apply(theme);
+      EXPECT_FALSE(IsShown(form, "picThemes"));
       Apply(kGarden);
       Control(form, "picPerson").show();
       Apply(theme);
+      EXPECT_TRUE(IsShown(form, "picThemes"));
       EXPECT_FALSE(IsShown(form, "picPerson"));
       EXPECT_TRUE(IsShown(form, "Shape15"));
       EXPECT_EQ(FillStyleOf(form, panel), Shape::kSolid);

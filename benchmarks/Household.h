@@ -1,0 +1,15 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include <QString>
+
+#include <vector>
+
+// A database with as many people as wanted, none of whom has a birthday or an
+// anniversary near today.
+void MakeHousehold(const QString& path, int people);
+
+// The middle one of the values.
+[[nodiscard]] double Median(std::vector<double> values);
