@@ -7,9 +7,22 @@
 
 #include <QListView>
 
+namespace {
+
+// A drop-down list that does not measure all of its lines before it opens.
+class DropDownList : public QListView
+{
+public:
+  using QListView::QListView;
+
+  [[nodiscard]] int sizeHintForColumn(int) const override { return -1; }
+};
+
+}
+
 ComboBox::ComboBox(QWidget* parent) : QComboBox(parent), lines_(new LinesModel(this))
 {
-  auto* list = new QListView(this);
+  auto* list = new DropDownList(this);
   list->setUniformItemSizes(true);
   list->setLayoutMode(QListView::SinglePass);
   setView(list);

@@ -63,7 +63,7 @@ void Label::SetFontUnderline(bool underline)
 void Label::SetRole(const QString& role)
 {
   role_ = role;
-  setFocusPolicy(IsCommand() ? Qt::StrongFocus : Qt::NoFocus);
+  setFocusPolicy(IsCommand() ? Qt::TabFocus : Qt::NoFocus);
 }
 
 bool Label::IsCommand() const

@@ -6,6 +6,7 @@
 #include "controls/LinesModel.h"
 
 #include <QMouseEvent>
+#include <QPainter>
 #include <QScopedValueRollback>
 
 ListBox::ListBox(QWidget* parent) : QListView(parent), lines_(new LinesModel(this))
@@ -35,7 +36,8 @@ void ListBox::SetList(int index, const QString& line)
 
 int ListBox::ListIndex() const
 {
-  return selectionModel()->isSelected(currentIndex()) ? currentIndex().row() : -1;
+  const QModelIndexList selected = selectionModel()->selectedIndexes();
+  return selected.isEmpty() ? -1 : selected.front().row();
 }
 
 void ListBox::SetListIndex(int index)
@@ -58,8 +60,15 @@ void ListBox::AddItem(const QString& line)
   lines_->Insert(sorted_ ? lines_->SortedPlace(line) : ListCount(), {line});
 }
 
+// Sorting all lines at once is quick, but loses the place of the selected one.
 void ListBox::AddItems(const QStringList& lines)
 {
+  if (sorted_ && ListIndex() >= 0) {
+    for (const QString& line : lines) {
+      AddItem(line);
+    }
+    return;
+  }
   lines_->Insert(ListCount(), lines);
   if (sorted_) {
     lines_->Sort();
@@ -81,23 +90,55 @@ void ListBox::Clear()
   lines_->Clear();
 }
 
-void ListBox::currentChanged(const QModelIndex& current, const QModelIndex& previous)
+void ListBox::SetBackColor(const QColor& color)
 {
-  QListView::currentChanged(current, previous);
-  if (choosing_ && current.isValid()) {
+  backColor_ = color;
+  viewport()->update();
+}
+
+void ListBox::selectionChanged(const QItemSelection& selected, const QItemSelection& deselected)
+{
+  QListView::selectionChanged(selected, deselected);
+  if (choosing_ && !selected.isEmpty()) {
     Q_EMIT Click();
   }
+}
+
+// A line once chosen stays so until another is: neither a key held down nor a click
+// beside the lines takes it away.
+QItemSelectionModel::SelectionFlags ListBox::selectionCommand(const QModelIndex& index, const QEvent*) const
+{
+  return index.isValid() ? QItemSelectionModel::ClearAndSelect : QItemSelectionModel::NoUpdate;
 }
 
 // The click comes after the line is selected, and also for the line that was selected before.
 void ListBox::mousePressEvent(QMouseEvent* event)
 {
+  if (event->button() != Qt::LeftButton) {
+    return;
+  }
   const QModelIndex under = indexAt(event->position().toPoint());
   {
     const QScopedValueRollback<bool> quiet(choosing_, false);
     QListView::mousePressEvent(event);
   }
-  if (under.isValid() && event->button() == Qt::LeftButton) {
+  if (under.isValid()) {
     Q_EMIT Click();
   }
+}
+
+// The toolkit would make the first line the current one, so that the first press of a
+// key would pass it by.
+void ListBox::focusInEvent(QFocusEvent* event)
+{
+  QAbstractScrollArea::focusInEvent(event);
+  viewport()->update();
+}
+
+void ListBox::paintEvent(QPaintEvent* event)
+{
+  if (backColor_.isValid()) {
+    QPainter(viewport()).fillRect(viewport()->rect(), backColor_);
+  }
+  QListView::paintEvent(event);
 }

@@ -12,6 +12,7 @@ class ListBox : public QListView
 {
   Q_OBJECT
   Q_PROPERTY(bool Sorted READ Sorted WRITE SetSorted)
+  Q_PROPERTY(QColor BackColor READ BackColor WRITE SetBackColor)
 
 public:
   explicit ListBox(QWidget* parent = nullptr);
@@ -36,16 +37,25 @@ public:
   [[nodiscard]] bool Sorted() const { return sorted_; }
   void SetSorted(bool sorted) { sorted_ = sorted; }
 
+  // Invalid, for the page's own look of lists, unless one was set.
+  [[nodiscard]] QColor BackColor() const { return backColor_; }
+  void SetBackColor(const QColor& color);
+
 Q_SIGNALS:
   // A line was chosen, by mouse, by keyboard or by SetListIndex; also the same again by mouse.
   void Click();
 
 protected:
-  void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
+  void selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) override;
+  [[nodiscard]] QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index,
+                                                                     const QEvent* event) const override;
   void mousePressEvent(QMouseEvent* event) override;
+  void focusInEvent(QFocusEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
 
 private:
   LinesModel* lines_;
+  QColor backColor_;
   bool sorted_ = false;
   bool choosing_ = true;
 };

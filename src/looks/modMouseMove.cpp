@@ -5,6 +5,7 @@
 
 #include "controls/Form.h"
 #include "controls/Label.h"
+#include "controls/ListBox.h"
 
 #include <QEvent>
 #include <QHash>
@@ -72,12 +73,10 @@ void SetBack(Label& label, Row row, bool lit)
   }
 }
 
-void PutOutList(QWidget& list)
+void PutOutList(ListBox& list)
 {
-  QPalette palette = list.palette();
-  if (list.isVisible() && palette.color(QPalette::Base) == kLitList) {
-    palette.setColor(QPalette::Base, Qt::white);
-    list.setPalette(palette);
+  if (list.isVisible() && list.BackColor() == kLitList) {
+    list.SetBackColor(Qt::white);
   }
 }
 
@@ -85,8 +84,9 @@ void SetLit(QWidget* element, Row row, bool lit)
 {
   auto* label = qobject_cast<Label*>(element);
   if (row == Row::kReminders) {
-    if (element != nullptr && !lit) {
-      PutOutList(*element);
+    auto* list = qobject_cast<ListBox*>(element);
+    if (list != nullptr && !lit) {
+      PutOutList(*list);
     }
   } else if (label != nullptr && row == Row::kOptionsText) {
     SetText(*label, lit);
@@ -117,7 +117,10 @@ public:
   {
     if (event->type() == QEvent::MouseMove || event->type() == QEvent::Enter) {
       MoveOver(*watched);
-    } else if (event->type() == QEvent::Leave) {
+      // A label would pass the move on to the form behind it.
+      return event->type() == QEvent::MouseMove && qobject_cast<Label*>(watched) != nullptr;
+    }
+    if (event->type() == QEvent::Leave) {
       ResetAll(form_);
     }
     return false;

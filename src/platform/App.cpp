@@ -40,7 +40,7 @@ QString File(const QString& relative)
 void SetPath(const QString& folder)
 {
   LetGo();
-  chosenFolder = folder;
+  chosenFolder = folder.endsWith(QLatin1Char('/')) ? folder.chopped(1) : folder;
 }
 
 // The lock is on the folder itself: it needs no file, and the system drops it with

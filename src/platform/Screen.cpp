@@ -37,7 +37,17 @@ int TwipsPerPixelX()
 
 int CentredLeft(int windowWidth)
 {
-  return Width() / 2 - windowWidth / 2;
+  return TwipsFromPixels(Pixels().left()) + Width() / 2 - windowWidth / 2;
+}
+
+int CentredTop(int windowHeight)
+{
+  return TwipsFromPixels(Pixels().top()) + Height() / 2 - windowHeight / 2;
+}
+
+int QuarterDown()
+{
+  return TwipsFromPixels(Pixels().top()) + Height() / 4;
 }
 
 void Pretend(const QRect& pixels)

@@ -14,8 +14,11 @@ namespace Screen {
 
 [[nodiscard]] int TwipsPerPixelX();
 
-// The left edge, in twips, that centres a window of this width.
+// The left edge, in twips, that centres a window of this width, and the top edge that
+// centres one of this height; and the top edge a quarter of the screen's height down.
 [[nodiscard]] int CentredLeft(int windowWidth);
+[[nodiscard]] int CentredTop(int windowHeight);
+[[nodiscard]] int QuarterDown();
 
 // Takes another rectangle, in pixels, for the screen; an empty one gives the real screen back.
 void Pretend(const QRect& pixels);

@@ -111,7 +111,7 @@ void frmTextNotice::ShowMessage(const QString& message)
 
 void frmTextNotice::Centre()
 {
-  move(PixelsFromTwips(Screen::CentredLeft(ScaleWidth())), PixelsFromTwips(Screen::Height() / 4));
+  move(PixelsFromTwips(Screen::CentredLeft(ScaleWidth())), PixelsFromTwips(Screen::QuarterDown()));
 }
 
 void frmTextNotice::lstNotices_Click()

@@ -195,9 +195,8 @@ void mdiQuillmark::RestoreState()
 
 void mdiQuillmark::Centre()
 {
-  const int left = (Screen::Width() - TwipsFromPixels(width())) / 2;
-  const int top = (Screen::Height() - TwipsFromPixels(height())) / 2;
-  move(PixelsFromTwips(left), PixelsFromTwips(top));
+  move(PixelsFromTwips(Screen::CentredLeft(TwipsFromPixels(width()))),
+       PixelsFromTwips(Screen::CentredTop(TwipsFromPixels(height()))));
 }
 
 void mdiQuillmark::MarkTheme(int theme)

@@ -7,27 +7,32 @@
 #include "store/SchemaReader.h"
 #include "store/StoreError.h"
 
-#include <QFileInfo>
+#include <QFile>
 
+#include <optional>
 #include <sqlite3.h>
+#include <sys/stat.h>
 
 namespace {
 
 constexpr int kPatienceMilliseconds = 1000;
 
-std::map<QString, std::weak_ptr<Connection>>& OpenConnections()
+using FileIdentity = std::pair<dev_t, ino_t>;
+
+std::map<FileIdentity, std::weak_ptr<Connection>>& OpenConnections()
 {
-  static std::map<QString, std::weak_ptr<Connection>> connections;
+  static std::map<FileIdentity, std::weak_ptr<Connection>> connections;
   return connections;
 }
 
-QString CanonicalPath(const QString& path)
+// Which file stands at the path now: another one under the same name is another.
+std::optional<FileIdentity> IdentityOf(const QString& path)
 {
-  const QString canonical = QFileInfo(path).canonicalFilePath();
-  if (canonical.isEmpty()) {
-    StoreError::Raise(StoreError::kFileNotFound, path);
+  struct stat status = {};
+  if (stat(QFile::encodeName(path).constData(), &status) != 0) {
+    return std::nullopt;
   }
-  return canonical;
+  return FileIdentity(status.st_dev, status.st_ino);
 }
 
 int CompareTexts(void*, int size, const void* text, int otherSize, const void* other)
@@ -40,7 +45,11 @@ int CompareTexts(void*, int size, const void* text, int otherSize, const void* o
 
 std::shared_ptr<Connection> Connection::To(const QString& path)
 {
-  std::weak_ptr<Connection>& known = OpenConnections()[CanonicalPath(path)];
+  const std::optional<FileIdentity> identity = IdentityOf(path);
+  if (!identity) {
+    StoreError::Raise(StoreError::kFileNotFound, path);
+  }
+  std::weak_ptr<Connection>& known = OpenConnections()[*identity];
   std::shared_ptr<Connection> connection = known.lock();
   if (!connection) {
     connection.reset(new Connection(path));
@@ -51,7 +60,8 @@ std::shared_ptr<Connection> Connection::To(const QString& path)
 
 long Connection::UsersOf(const QString& path)
 {
-  const auto found = OpenConnections().find(QFileInfo(path).canonicalFilePath());
+  const std::optional<FileIdentity> identity = IdentityOf(path);
+  const auto found = identity ? OpenConnections().find(*identity) : OpenConnections().end();
   return found == OpenConnections().end() ? 0 : found->second.use_count();
 }
 
@@ -77,6 +87,9 @@ void Connection::Open(const QString& path)
   sqlite3_db_config(handle_, SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0, nullptr);
   sqlite3_create_collation(handle_, "TEXTORDER", SQLITE_UTF8, nullptr, CompareTexts);
   Execute("SELECT count(*) FROM sqlite_master");
+  if (QFile(path).size() == 0) {
+    StoreError::Raise(StoreError::kNotADatabase);
+  }
   if (sqlite3_db_readonly(handle_, "main") != 0) {
     StoreError::Raise(StoreError::kReadOnly);
   }

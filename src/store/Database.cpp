@@ -27,6 +27,9 @@ std::unique_ptr<Recordset> Database::OpenRecordset(const QString& source, int ki
   }
   const Dialect::Select select = Dialect::ParseSelect(source);
   const TableSchema& table = connection_->Table(select.table);
+  if (select.group && !select.order.empty()) {
+    StoreError::Raise(StoreError::kSyntax, QStringLiteral("ORDER"));
+  }
   if (select.group) {
     return std::make_unique<Snapshot>(connection_, select, table);
   }

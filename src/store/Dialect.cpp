@@ -134,7 +134,8 @@ Expression Parser::ParseExpression()
 Item Parser::ParseItem()
 {
   Item item;
-  const bool isCount = tokens_[at_ + 1].text == QLatin1Char('(') && TakeWord("Count");
+  const bool opensBrackets = at_ + 1 < tokens_.size() && tokens_[at_ + 1].text == QLatin1Char('(');
+  const bool isCount = opensBrackets && TakeWord("Count");
   if (isCount) {
     item.counted = true;
     item.expression = {{ParseColumnInBrackets(), false}};

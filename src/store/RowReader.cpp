@@ -122,9 +122,9 @@ void RowReader::Read(std::span<const qint64> keys)
 {
   const ReadLock lock(connection_);
   Statement statement(connection_, Sql());
-  block_.resize(keys.size());
+  std::vector<Row> block(keys.size());
   for (std::size_t i = 0; i < keys.size(); ++i) {
-    Row& row = block_[i];
+    Row& row = block[i];
     row.key = keys[i];
     statement.Bind(1, QVariant::fromValue<qlonglong>(keys[i]));
     row.exists = statement.Step();
@@ -135,4 +135,5 @@ void RowReader::Read(std::span<const qint64> keys)
     }
     statement.Restart();
   }
+  block_ = std::move(block);
 }

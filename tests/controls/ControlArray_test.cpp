@@ -84,7 +84,7 @@ TEST(ControlArray, ElementsMayStandInsideOtherControls)
 TEST(ControlArray, OnlyElementsOfTheNameAndKindAreTaken)
 {
   QWidget form;
-  for (const char* name : {"lblOptions_0", "lblOptions", "lblOptionsText_1", "lblOptions_x", "lbl_2", "lblNames_3"}) {
+  for (const char* name : {"lblOptions_0", "lblOptions", "lblOptionsText_1", "lblOptions_x", "lbl_2", "lblPersons_3"}) {
     Add<Label>(form, QString::fromLatin1(name));
   }
   Add<ListBox>(form, QStringLiteral("lblOptions_4"));

@@ -249,7 +249,7 @@ TEST_F(FormTest, ControlIsFoundByItsName)
 TEST_F(FormTest, ArrayIsFoundByItsNameWithItsGaps)
 {
   const Page& page = Window([](Page& form) {
-    for (const char* name : {"lblDay_7", "lblDay_2", "lblDay", "lblDays_3", "lblDay_x", "lblDay_4"}) {
+    for (const char* name : {"lblDay_7", "lblDay_2", "lblDay", "lblDays_3", "lblWay_9", "lblDay_x", "lblDay_4"}) {
       form.Add<Label>(name);
     }
   });
@@ -272,6 +272,15 @@ TEST_F(FormTest, ResizeIsToldOnceTheFormIsLoaded)
   page.resize(420, 220);
   EXPECT_TRUE(QTest::qWaitFor([&] { return page.events.contains(QStringLiteral("resize 6300 x 3300")); }));
   EXPECT_EQ(page.events.front(), QStringLiteral("load"));
+}
+
+TEST_F(FormTest, NoResizeIsToldBeforeTheFormIsLoaded)
+{
+  const Page& page = Window([](Page& form) {
+    form.resize(500, 300);
+    static_cast<void>(form.grab());
+  });
+  EXPECT_EQ(page.events, QStringList(QStringLiteral("load")));
 }
 
 TEST_F(FormTest, WindowIsShownAndHiddenAsAWindowOfItsOwn)

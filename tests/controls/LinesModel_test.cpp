@@ -78,6 +78,17 @@ TEST_F(LinesModelTest, SortKeepsEqualLinesInTheOrderTheyCame)
   EXPECT_EQ(All(), QStringLiteral("Ann|ann|bob|Bob"));
 }
 
+TEST_F(LinesModelTest, SortKeepsTheOrderOfManyEqualLines)
+{
+  QStringList lines;
+  for (int i = 0; i < 100; ++i) {
+    lines.append(i % 2 == 0 ? QStringLiteral("ann") : QStringLiteral("Ann"));
+  }
+  model_.Insert(0, lines);
+  model_.Sort();
+  EXPECT_EQ(All(), lines.join(u'|'));
+}
+
 TEST_F(LinesModelTest, SortedPlaceIsBehindEqualLines)
 {
   model_.Insert(0, {QStringLiteral("Ann"), QStringLiteral("bob"), QStringLiteral("Cid")});

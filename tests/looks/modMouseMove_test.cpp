@@ -112,7 +112,7 @@ protected:
   }
 
   Label& At(const char* name) { return static_cast<Label&>(Drive::Control(*form_, QString::fromLatin1(name))); }
-  QWidget& List(const char* name) { return Drive::Control(*form_, QString::fromLatin1(name)); }
+  ListBox& List(const char* name) { return *qobject_cast<ListBox*>(form_->Control(QLatin1String(name))); }
 
   // The labels that show their back colour, by name.
   std::string Lit() { return NamesOf([](const Label& label) { return label.BackStyle() == Label::kOpaque; }); }
@@ -121,11 +121,9 @@ protected:
 
   void Light(const char* list, const QColor& color = kLitList)
   {
-    QPalette palette = List(list).palette();
-    palette.setColor(QPalette::Base, color);
-    List(list).setPalette(palette);
+    List(list).SetBackColor(color);
   }
-  QColor ColourOf(const char* list) { return List(list).palette().color(QPalette::Base); }
+  QColor ColourOf(const char* list) { return List(list).BackColor(); }
 
   Form* form_ = nullptr;
 

@@ -251,6 +251,16 @@ TEST_F(FilesInAFolder, CopyFileRefusesATargetThatMayNotBeWritten)
   EXPECT_EQ(Entries(), QStringList({"source", "target"}));
 }
 
+TEST_F(FilesInAFolder, ACopyThatCannotStandBesideItsTargetIsNotPouredIntoIt)
+{
+  Write("source", QByteArray(1'000'000, 'n'));
+  Write("target", "old");
+  Allow(0555, "target", 0666);
+  static_cast<void>(ErrorInAWeakProcess([&] { Files::CopyFile(Path("source"), Path("target")); }, 1000));
+  EXPECT_EQ(Contents("target"), "old");
+  Allow(0755, "target", 0666);
+}
+
 TEST_F(FilesInAFolder, ACopyThatDoesNotFitLeavesWhatStoodThere)
 {
   Write("source", QByteArray(1'000'000, 'n'));

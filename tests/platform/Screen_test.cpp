@@ -41,6 +41,23 @@ TEST_F(PretendedScreen, WindowsAreCentredOnAScreenBesideAnother)
   EXPECT_EQ(Screen::CentredLeft(6000), 1024 * 15 + 3000);
 }
 
+TEST_F(PretendedScreen, WindowsAreCentredFromTopToBottom)
+{
+  Screen::Pretend(QRect(0, 0, 800, 600));
+  EXPECT_EQ(Screen::CentredTop(9000), 0);
+  EXPECT_EQ(Screen::CentredTop(3000), 3000);
+  Screen::Pretend(QRect(0, 768, 800, 600));
+  EXPECT_EQ(Screen::CentredTop(3000), 768 * 15 + 3000);
+}
+
+TEST_F(PretendedScreen, AQuarterDownIsAQuarterOfItsHeight)
+{
+  Screen::Pretend(QRect(0, 0, 800, 600));
+  EXPECT_EQ(Screen::QuarterDown(), 2250);
+  Screen::Pretend(QRect(0, 768, 800, 600));
+  EXPECT_EQ(Screen::QuarterDown(), 768 * 15 + 2250);
+}
+
 TEST_F(PretendedScreen, GivesWayToTheRealOne)
 {
   Screen::Pretend(QRect(0, 0, 123, 45));

@@ -521,6 +521,44 @@ TEST_F(Dynaset, AnotherProgramsChangeIsSeenAtTheNextMove)
   EXPECT_EQ(cursor->AbsolutePosition(), 2);
 }
 
+TEST_F(Dynaset, AnotherCursorsChangeOfAnOrderingColumnIsSeenInTheOldPlace)
+{
+  for (const QString month : {"April", "June", "May"}) {
+    AddBirthday(month, "1");
+  }
+  const auto cursor = Open(Queries::kBirthdaysByMonth);
+  const auto other = Open(Queries::kBirthdaysByMonth);
+  other->MoveNext();
+  other->Edit();
+  other->Fields("BirthMonth").SetValue("March");
+  other->Update();
+  EXPECT_EQ(Column(*cursor, "BirthMonth"), QVariantList({"April", "March", "May"}));
+}
+
+TEST_F(Dynaset, AnotherProgramsChangeOfAnOrderingColumnIsSeenInTheOldPlace)
+{
+  for (const QString month : {"April", "June", "May"}) {
+    AddBirthday(month, "1");
+  }
+  const auto cursor = Open(Queries::kBirthdaysByMonth);
+  EXPECT_EQ(cursor->Fields("BirthMonth").Value(), "April");
+  folder.Execute("UPDATE People SET BirthMonth = 'March' WHERE BirthMonth = 'June'");
+  EXPECT_EQ(Column(*cursor, "BirthMonth"), QVariantList({"April", "March", "May"}));
+}
+
+TEST_F(Dynaset, ItsOwnChangeOfAnOrderingColumnIsSeenInTheOldPlace)
+{
+  for (const QString month : {"April", "June", "May"}) {
+    AddBirthday(month, "1");
+  }
+  const auto cursor = Open(Queries::kBirthdaysByMonth);
+  cursor->Edit();
+  cursor->Fields("BirthMonth").SetValue("September");
+  cursor->Update();
+  EXPECT_EQ(cursor->Fields("BirthMonth").Value(), "September");
+  EXPECT_EQ(Column(*cursor, "BirthMonth"), QVariantList({"September", "June", "May"}));
+}
+
 TEST_F(Dynaset, ARowThatAnotherDeletesVanishes)
 {
   AddAdamsBrownClark();

@@ -89,6 +89,45 @@ TEST_P(EveryCursor, AFieldFollowsTheCursor)
   EXPECT_EQ(field.Value(), "Adams");
 }
 
+TEST_P(EveryCursor, PeekGivesTheValue)
+{
+  const auto cursor = Open();
+  const Field& name = cursor->Fields("LastName");
+  EXPECT_EQ(name.Peek(), "Adams");
+  cursor->MoveNext();
+  EXPECT_EQ(name.Peek(), "Brown");
+  EXPECT_TRUE(cursor->Fields("City").Peek().isNull());
+  cursor->Delete();
+  EXPECT_EQ(ErrorOf([&] { static_cast<void>(name.Peek()); }), StoreError::kRecordDeleted);
+  cursor->MoveNext();
+  EXPECT_EQ(ErrorOf([&] { static_cast<void>(name.Peek()); }), StoreError::kNoCurrentRecord);
+}
+
+TEST_P(EveryCursor, APeekedValueStaysGoodWhileOtherColumnsAreRead)
+{
+  const auto cursor = Open();
+  const QVariant& name = cursor->Fields("LastName").Peek();
+  for (const QString column : {"PeopleID", "FirstName", "City", "Notes", "BirthMonth", "AnnYear"}) {
+    static_cast<void>(cursor->Fields(column).Value());
+  }
+  EXPECT_TRUE(name.isValid());
+  EXPECT_EQ(name, "Adams");
+}
+
+TEST_P(EveryCursor, APeekedValueStaysGoodWhileAnotherCursorWrites)
+{
+  const auto cursor = Open();
+  const auto other = Open();
+  const QVariant& name = cursor->Fields("LastName").Peek();
+  other->MoveNext();
+  other->Edit();
+  other->Fields("LastName").SetValue("Burns");
+  other->Update();
+  static_cast<void>(cursor->Fields("LastName").Value());
+  EXPECT_TRUE(name.isValid());
+  EXPECT_EQ(name, "Adams");
+}
+
 TEST_P(EveryCursor, NothingIsWrittenBeforeUpdate)
 {
   const auto cursor = Open();

@@ -185,6 +185,46 @@ TEST_F(StoreInCommands, ACursorSeesThatAChangeWasTakenBack)
   EXPECT_EQ(LastNames(*cursor), QStringList({"Abbot", "Brown", "Clark"}));
 }
 
+TEST_F(StoreInCommands, ACursorSeesThatAChangeOfAnOrderingColumnWasTakenBack)
+{
+  folder.Execute("UPDATE People SET BirthMonth = 'May'");
+  const auto cursor = database.OpenRecordset(Queries::kBirthdaysByMonth, Database::kDynaset);
+  std::unique_ptr<Recordset> within;
+  EXPECT_THROW(Command::Run([&] {
+                 cursor->Edit();
+                 cursor->Fields("BirthMonth").SetValue("June");
+                 cursor->Update();
+                 within = database.OpenRecordset(Queries::kBirthdaysByMonth, Database::kDynaset);
+                 within->MoveLast();
+                 EXPECT_EQ(within->Fields("BirthMonth").Value(), "May");
+                 within->MoveFirst();
+                 EXPECT_EQ(within->Fields("BirthMonth").Value(), "June");
+                 throw std::runtime_error("stop");
+               }),
+               std::runtime_error);
+  EXPECT_EQ(cursor->Fields("BirthMonth").Value(), "May");
+  EXPECT_EQ(within->Fields("BirthMonth").Value(), "May");
+}
+
+TEST_F(StoreInCommands, ARowAddedInACommandThatWasTakenBackIsGone)
+{
+  for (const bool isTable : {false, true}) {
+    const auto cursor = isTable ? database.OpenRecordset("People", Database::kTable) : Open();
+    EXPECT_THROW(Command::Run([&] {
+                   Add(*cursor, "Dent");
+                   cursor->MoveLast();
+                   EXPECT_EQ(cursor->Fields("LastName").Value(), "Dent");
+                   throw std::runtime_error("stop");
+                 }),
+                 std::runtime_error);
+    EXPECT_EQ(ErrorOf([&] { static_cast<void>(cursor->Fields("LastName").Value()); }), StoreError::kRecordDeleted);
+    cursor->MovePrevious();
+    EXPECT_EQ(cursor->Fields("LastName").Value(), "Clark");
+    cursor->MoveLast();
+    EXPECT_EQ(cursor->Fields("LastName").Value(), "Clark");
+  }
+}
+
 TEST_F(StoreInCommands, ARowIsThereAgainWhenItsDeletionWasTakenBack)
 {
   for (const bool isTable : {false, true}) {
@@ -260,6 +300,22 @@ TEST_F(StoreInCommands, WritesDuringAPauseAreLastingWhateverBecomesOfTheCommand)
                }),
                std::runtime_error);
   EXPECT_EQ(Outside(), QStringList({"Aaron", "Brown", "Clark", "Dent"}));
+}
+
+TEST_F(StoreInCommands, ChangesMadeElsewhereDuringAPauseAreSeenAfterIt)
+{
+  for (const bool isTable : {false, true}) {
+    folder.Execute("UPDATE People SET LastName = 'Adams' WHERE PeopleID = 1");
+    const auto cursor = isTable ? database.OpenRecordset("People", Database::kTable) : Open();
+    Command::Run([&] {
+      EXPECT_EQ(cursor->Fields("LastName").Value(), "Adams");
+      {
+        const Command::Pause pause;
+        folder.Execute("UPDATE People SET LastName = 'Abbot' WHERE PeopleID = 1");
+      }
+      EXPECT_EQ(cursor->Fields("LastName").Value(), "Abbot");
+    });
+  }
 }
 
 TEST_F(StoreInCommands, SettlingMakesWhatWasWrittenSoFarLasting)
