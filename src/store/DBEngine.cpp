@@ -4,6 +4,7 @@
 #include "store/DBEngine.h"
 
 #include "platform/App.h"
+#include "platform/Command.h"
 #include "platform/RuntimeError.h"
 #include "store/Connection.h"
 #include "store/Statement.h"
@@ -33,6 +34,7 @@ void CompactDatabase(const QString& source, const QString& target)
   if (QFileInfo::exists(target)) {
     StoreError::Raise(StoreError::kAlreadyExists, target);
   }
+  Command::Settle();
   if (Connection::UsersOf(source) > 0) {
     StoreError::Raise(StoreError::kInUse);
   }

@@ -146,7 +146,7 @@ qint64 ListCursor::CurrentKey()
 
 void ListCursor::RowAdded(qint64 key)
 {
-  const bool pastTheEnd = position_ >= Size();
+  const bool pastTheEnd = !deletedHere_ && position_ >= Size();
   keys_.push_back(key);
   if (pastTheEnd) {
     position_ = Size();

@@ -47,8 +47,7 @@ RowReader::RowReader(Connection& connection, const TableSchema& table, std::vect
       table_(QuoteName(table.name)),
       key_(QuoteName(table.key)),
       expressions_(std::move(expressions)),
-      types_(std::move(types)),
-      place_(expressions_.size(), -1)
+      types_(std::move(types))
 {}
 
 bool RowReader::Exists(std::span<const qint64> keys)
@@ -58,19 +57,18 @@ bool RowReader::Exists(std::span<const qint64> keys)
 
 const QVariant* RowReader::Value(std::span<const qint64> keys, int column)
 {
-  if (place_[static_cast<std::size_t>(column)] < 0) {
+  const Row& row = Find(keys);
+  if (std::find(wanted_.begin(), wanted_.end(), column) == wanted_.end()) {
     Want(column);
   }
-  const Row& row = Find(keys);
-  const auto place = static_cast<std::size_t>(place_[static_cast<std::size_t>(column)]);
-  return row.exists ? &row.values[place] : nullptr;
+  return row.exists ? &row.values[static_cast<std::size_t>(column)] : nullptr;
 }
 
+// The values that were read before stay where they are.
 void RowReader::Want(int column)
 {
-  place_[static_cast<std::size_t>(column)] = static_cast<int>(wanted_.size());
+  Fill(block_, {column});
   wanted_.push_back(column);
-  block_.clear();
 }
 
 const RowReader::Row& RowReader::Find(std::span<const qint64> keys)
@@ -108,32 +106,38 @@ RowReader::Row* RowReader::FindInBlock(qint64 key)
   return &*found;
 }
 
-QString RowReader::Sql() const
+QString RowReader::Sql(const std::vector<int>& columns) const
 {
-  QStringList columns;
-  for (const int column : wanted_) {
-    columns.append(expressions_[static_cast<std::size_t>(column)]);
+  QStringList expressions;
+  for (const int column : columns) {
+    expressions.append(expressions_[static_cast<std::size_t>(column)]);
   }
-  const QString list = columns.isEmpty() ? QStringLiteral("1") : columns.join(QLatin1Char(','));
+  const QString list = expressions.isEmpty() ? QStringLiteral("1") : expressions.join(QLatin1Char(','));
   return QStringLiteral("SELECT %1 FROM %2 WHERE %3=?").arg(list, table_, key_);
 }
 
 void RowReader::Read(std::span<const qint64> keys)
 {
-  const ReadLock lock(connection_);
-  Statement statement(connection_, Sql());
   std::vector<Row> block(keys.size());
   for (std::size_t i = 0; i < keys.size(); ++i) {
-    Row& row = block[i];
-    row.key = keys[i];
-    statement.Bind(1, QVariant::fromValue<qlonglong>(keys[i]));
+    block[i].key = keys[i];
+    block[i].values.resize(expressions_.size());
+  }
+  Fill(block, wanted_);
+  block_ = std::move(block);
+}
+
+void RowReader::Fill(std::vector<Row>& rows, const std::vector<int>& columns)
+{
+  const ReadLock lock(connection_);
+  Statement statement(connection_, Sql(columns));
+  for (Row& row : rows) {
+    statement.Bind(1, QVariant::fromValue<qlonglong>(row.key));
     row.exists = statement.Step();
-    row.values.resize(wanted_.size());
-    for (std::size_t place = 0; row.exists && place < wanted_.size(); ++place) {
-      const ColumnType type = types_[static_cast<std::size_t>(wanted_[place])];
-      row.values[place] = statement.Value(static_cast<int>(place), type);
+    for (std::size_t place = 0; row.exists && place < columns.size(); ++place) {
+      const auto column = static_cast<std::size_t>(columns[place]);
+      row.values[column] = statement.Value(static_cast<int>(place), types_[column]);
     }
     statement.Restart();
   }
-  block_ = std::move(block);
 }

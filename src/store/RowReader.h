@@ -22,7 +22,7 @@ public:
             std::vector<ColumnType> types);
 
   // The row of `keys.front()`; the rest of `keys` is what may be asked for next.
-  // Null if the row is gone.
+  // Null if the row is gone. A value stays good while its row and rows near it are asked for.
   [[nodiscard]] bool Exists(std::span<const qint64> keys);
   [[nodiscard]] const QVariant* Value(std::span<const qint64> keys, int column);
 
@@ -31,13 +31,14 @@ private:
   {
     qint64 key = 0;
     bool exists = false;
-    std::vector<QVariant> values;  // of the wanted columns
+    std::vector<QVariant> values;  // by column; of those not wanted, nothing
   };
 
   const Row& Find(std::span<const qint64> keys);
   void Read(std::span<const qint64> keys);
   [[nodiscard]] Row* FindInBlock(qint64 key);
-  [[nodiscard]] QString Sql() const;
+  [[nodiscard]] QString Sql(const std::vector<int>& columns) const;
+  void Fill(std::vector<Row>& rows, const std::vector<int>& columns);
   void Want(int column);
 
   Connection& connection_;
@@ -46,7 +47,6 @@ private:
   std::vector<QString> expressions_;
   std::vector<ColumnType> types_;
   std::vector<int> wanted_;
-  std::vector<int> place_;  // of a column among the wanted ones, -1 if it is not
   std::vector<Row> block_;
   std::size_t lastFound_ = 0;
   qint64 expectedNext_ = 0;

@@ -116,10 +116,13 @@ std::string_view Statement::Bytes(int column) const
   return {text == nullptr ? "" : text, static_cast<std::size_t>(sqlite3_column_bytes(statement_, column))};
 }
 
+// The toolkit takes a byte order mark at the start of a text for no part of it.
 QString Statement::Text(int column) const
 {
+  constexpr std::string_view kMark = "\xEF\xBB\xBF";
   const std::string_view bytes = Bytes(column);
-  return QString::fromUtf8(bytes.data(), static_cast<qsizetype>(bytes.size()));
+  const QString text = QString::fromUtf8(bytes.data(), static_cast<qsizetype>(bytes.size()));
+  return bytes.starts_with(kMark) ? QChar(QChar::ByteOrderMark) + text : text;
 }
 
 QVariant Statement::Value(int column, ColumnType type) const

@@ -42,10 +42,7 @@ public:
 protected:
   void Form_Load() override { events.append(QStringLiteral("load")); }
   void Form_QueryUnload(bool& cancel) override { cancel = refusesToUnload; }
-  void Form_Resize() override
-  {
-    events.append(QStringLiteral("resize %1 x %2").arg(ScaleWidth()).arg(ScaleHeight()));
-  }
+  void Form_Resize() override { events.append(QStringLiteral("resize %1 x %2").arg(ScaleWidth()).arg(ScaleHeight())); }
   void Form_CloseBox() override
   {
     events.append(QStringLiteral("close box"));
@@ -97,7 +94,8 @@ protected:
 
   using Build = std::function<void(Page&)>;
 
-  static Page& Load(const char* name, Form::Kind kind, Build build = [](Page&) {})
+  static Page& Load(
+      const char* name, Form::Kind kind, Build build = [](Page&) {})
   {
     const QString formName = QString::fromLatin1(name);
     Forms::Register(formName, [=] {

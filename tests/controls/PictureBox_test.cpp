@@ -67,11 +67,11 @@ TEST_F(PictureBoxTest, PictureIsAsLargeAsItFitsInItsProportionsAndCentred)
     QRect place;
   };
   const std::vector<Case> cases = {
-      {{200, 100}, {100, 100}, {0, 25, 100, 50}},   // wide
-      {{100, 200}, {100, 100}, {25, 0, 50, 100}},   // tall
-      {{50, 50}, {200, 100}, {50, 0, 100, 100}},    // small in a wide box
-      {{400, 400}, {100, 300}, {0, 100, 100, 100}}, // large in a tall box
-      {{60, 40}, {60, 40}, {0, 0, 60, 40}},         // fits
+      {{200, 100}, {100, 100}, {0, 25, 100, 50}},    // wide
+      {{100, 200}, {100, 100}, {25, 0, 50, 100}},    // tall
+      {{50, 50}, {200, 100}, {50, 0, 100, 100}},     // small in a wide box
+      {{400, 400}, {100, 300}, {0, 100, 100, 100}},  // large in a tall box
+      {{60, 40}, {60, 40}, {0, 0, 60, 40}},          // fits
   };
   for (const Case& c : cases) {
     Resize(c.box.width(), c.box.height());

@@ -32,10 +32,7 @@ struct Widget
   QMap<QString, QString> properties;
   std::vector<std::unique_ptr<Widget>> children;
 
-  [[nodiscard]] QString Property(const char* property) const
-  {
-    return properties.value(QString::fromLatin1(property));
-  }
+  [[nodiscard]] QString Property(const char* property) const { return properties.value(QString::fromLatin1(property)); }
   [[nodiscard]] bool IsCommand() const { return Property("role") == QStringLiteral("command"); }
 };
 
@@ -145,10 +142,10 @@ bool PlacesItself(const Widget& widget)
 
 bool IsDefaultName(const QString& name, const QString& kind)
 {
-  static const QRegularExpression designers(QStringLiteral(
-      "^(form|dialog|mainwindow|widget|page|line|action|menu|menubar|statusbar|toolbar|centralwidget|separator|spacer)"
-      "\\d*(_\\d+)?$"),
-      QRegularExpression::CaseInsensitiveOption);
+  static const QRegularExpression designers(QStringLiteral("^(form|dialog|mainwindow|widget|page|line|action|menu|"
+                                                           "menubar|statusbar|toolbar|centralwidget|separator|spacer)"
+                                                           "\\d*(_\\d+)?$"),
+                                            QRegularExpression::CaseInsensitiveOption);
   if (kind == QStringLiteral("QMenuBar")) {
     return false;
   }
@@ -287,8 +284,8 @@ private:
     const bool wraps = widget.Property("wordWrap") == QStringLiteral("true");
     const int inset = widget.IsCommand() ? kCommandInset : 0;
     const QSize room(widget.place.width() - 2 * inset, widget.place.height());
-    const QRect taken = QFontMetrics(label.font())
-                            .boundingRect(QRect(0, 0, room.width(), 10'000), wraps ? Qt::TextWordWrap : 0, text);
+    const QRect taken =
+        QFontMetrics(label.font()).boundingRect(QRect(0, 0, room.width(), 10'000), wraps ? Qt::TextWordWrap : 0, text);
     return taken.width() <= room.width() && taken.height() <= room.height();
   }
 
@@ -324,8 +321,9 @@ protected:
 
   static QByteArray Place(int x, int y, int width, int height)
   {
-    return QStringLiteral("<property name=\"geometry\"><rect><x>%1</x><y>%2</y><width>%3</width><height>%4</height>"
-                          "</rect></property>")
+    return QStringLiteral(
+               "<property name=\"geometry\"><rect><x>%1</x><y>%2</y><width>%3</width><height>%4</height>"
+               "</rect></property>")
         .arg(x)
         .arg(y)
         .arg(width)
@@ -406,9 +404,11 @@ TEST_F(FormsUiTest, FaultsAreFound)
       {Make("Label", "lblOptions_0", place + Role("command")), {}, "lblOptions_0 is not in the tab order"},
       {Make("Label", "lblTitle", place), "<tabstop>lblTitle</tabstop>", "lblTitle is in the tab order for nothing"},
       {Make("Label", "lblTitle", place + Text("Short")), {}, ""},
-      {Make("Label", "lblTitle", place + Text("A caption that is far too long for it")), {},
+      {Make("Label", "lblTitle", place + Text("A caption that is far too long for it")),
+       {},
        "lblTitle is too small for its caption"},
-      {Make("Label", "lblTitle", place + Role("title") + Text("Personal Info")), {},
+      {Make("Label", "lblTitle", place + Role("title") + Text("Personal Info")),
+       {},
        "lblTitle is too small for its caption"},
       {Make("QCheckBox", "chkNotes", place + Text("A caption that is far too long")), "<tabstop>chkNotes</tabstop>",
        "chkNotes is too small for its caption"},
@@ -436,9 +436,8 @@ TEST_F(FormsUiTest, CommandNeedsRoomBesideItsCaption)
   label.ensurePolished();
   const int width = QFontMetrics(label.font()).boundingRect(QRect(0, 0, 500, 500), 0, QStringLiteral("Print")).width();
   const auto faults = [&](int room) {
-    return FaultsOfForm(
-        Make("Label", "lblOptions_0", Place(10, 10, room, 30) + Role("command") + Text("Print")),
-        "<tabstop>lblOptions_0</tabstop>");
+    return FaultsOfForm(Make("Label", "lblOptions_0", Place(10, 10, room, 30) + Role("command") + Text("Print")),
+                        "<tabstop>lblOptions_0</tabstop>");
   };
   EXPECT_EQ(faults(width + 16), "");
   EXPECT_EQ(faults(width + 15), "lblOptions_0 is too small for its caption");
@@ -447,11 +446,11 @@ TEST_F(FormsUiTest, CommandNeedsRoomBesideItsCaption)
 TEST_F(FormsUiTest, LongestSentencesOfTheNoticesWindowAreLookedAt)
 {
   const auto faults = [](const char* label, const char* role, int width, int height) {
-    return FaultsOf("<ui><widget class=\"QWidget\" name=\"frmTextNotice\">" + Place(0, 0, 600, 300) +
-                    Make("Label", label,
-                         Place(0, 0, width, height) + Role(role) +
-                             "<property name=\"wordWrap\"><bool>true</bool></property>") +
-                    "</widget></ui>");
+    return FaultsOf(
+        "<ui><widget class=\"QWidget\" name=\"frmTextNotice\">" + Place(0, 0, 600, 300) +
+        Make("Label", label,
+             Place(0, 0, width, height) + Role(role) + "<property name=\"wordWrap\"><bool>true</bool></property>") +
+        "</widget></ui>");
   };
   EXPECT_EQ(faults("lblExplain", "sentence", 500, 60), "");
   EXPECT_EQ(faults("lblExplain", "sentence", 100, 20), "lblExplain is too small for its caption");

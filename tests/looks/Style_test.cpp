@@ -52,8 +52,11 @@ TEST_F(StyleTest, RolesHaveTheirFonts)
     bool bold;
   };
   const std::vector<Case> cases = {
-      {"program", "Times New Roman", false}, {"title", "Times New Roman", false}, {"heading", "Arial", true},
-      {"command", "Arial", false},           {"", "Arial", false},
+      {"program", "Times New Roman", false},
+      {"title", "Times New Roman", false},
+      {"heading", "Arial", true},
+      {"command", "Arial", false},
+      {"", "Arial", false},
   };
   for (const Case& c : cases) {
     Label label;

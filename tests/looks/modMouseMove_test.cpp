@@ -115,14 +115,20 @@ protected:
   ListBox& List(const char* name) { return *qobject_cast<ListBox*>(form_->Control(QLatin1String(name))); }
 
   // The labels that show their back colour, by name.
-  std::string Lit() { return NamesOf([](const Label& label) { return label.BackStyle() == Label::kOpaque; }); }
-  std::string Accented() { return NamesOf([](const Label& label) { return label.ForeColor() == kAccent; }); }
-  std::string Underlined() { return NamesOf([](const Label& label) { return label.FontUnderline(); }); }
-
-  void Light(const char* list, const QColor& color = kLitList)
+  std::string Lit()
   {
-    List(list).SetBackColor(color);
+    return NamesOf([](const Label& label) { return label.BackStyle() == Label::kOpaque; });
   }
+  std::string Accented()
+  {
+    return NamesOf([](const Label& label) { return label.ForeColor() == kAccent; });
+  }
+  std::string Underlined()
+  {
+    return NamesOf([](const Label& label) { return label.FontUnderline(); });
+  }
+
+  void Light(const char* list, const QColor& color = kLitList) { List(list).SetBackColor(color); }
   QColor ColourOf(const char* list) { return List(list).BackColor(); }
 
   Form* form_ = nullptr;
@@ -288,8 +294,8 @@ TEST_F(MouseMoveTest, FormWithoutTheArrayIsNoFailure)
   };
   Forms::Register(QStringLiteral("frmAutoStart"), [] { return new Bare; });
   Form& form = Forms::Load(QStringLiteral("frmAutoStart"));
-  for (const Row row : {Row::kOptions, Row::kOptionsText, Row::kNames, Row::kAll, Row::kDay, Row::kData,
-                        Row::kReminders}) {
+  for (const Row row :
+       {Row::kOptions, Row::kOptionsText, Row::kNames, Row::kAll, Row::kDay, Row::kData, Row::kReminders}) {
     EXPECT_NO_THROW(modMouseMove::Highlight(form, row, 0));
     EXPECT_NO_THROW(modMouseMove::Reset(form, row));
   }
@@ -347,9 +353,9 @@ TEST_F(MouseMoveTest, LabelOnAPanelGoesOutWhenTheMouseIsOnThePanel)
 TEST_F(MouseMoveTest, TextIsLitOnTheFormsThatAskForItAlone)
 {
   const std::vector<std::pair<const char*, bool>> cases = {
-      {"frmQuillmark", true}, {"frmSpecial", true},  {"frmNew", true},         {"frmReminders", true},
-      {"frmCalEdit", true},   {"frmIntro", false},   {"frmAnn", false},        {"frmCharts", false},
-      {"frmNotice", false},   {"frmAbout", false},   {"frmTextNotice", false}, {"frmPrintCal", false},
+      {"frmQuillmark", true},  {"frmSpecial", true}, {"frmNew", true},         {"frmReminders", true},
+      {"frmCalEdit", true},    {"frmIntro", false},  {"frmAnn", false},        {"frmCharts", false},
+      {"frmNotice", false},    {"frmAbout", false},  {"frmTextNotice", false}, {"frmPrintCal", false},
       {"frmAutoStart", false},
   };
   for (const auto& [name, textIsLit] : cases) {

@@ -173,10 +173,7 @@ protected:
     Load("frmNotice");
   }
 
-  void Store(const QVariant& theme) const
-  {
-    folder_.Execute(QStringLiteral("UPDATE Options SET Theme = ?"), {theme});
-  }
+  void Store(const QVariant& theme) const { folder_.Execute(QStringLiteral("UPDATE Options SET Theme = ?"), {theme}); }
 
   void Apply(int theme) const
   {
@@ -214,9 +211,8 @@ protected:
   {
     for (const Themed& themed : kThemed) {
       if (form.Name() == QLatin1String(themed.form)) {
-        const QPixmap picture = *themed.holder == '\0'
-                                    ? form.Picture()
-                                    : static_cast<PictureBox&>(Control(form, themed.holder)).Picture();
+        const QPixmap picture =
+            *themed.holder == '\0' ? form.Picture() : static_cast<PictureBox&>(Control(form, themed.holder)).Picture();
         return picture.isNull() ? QSize() : picture.size();
       }
     }

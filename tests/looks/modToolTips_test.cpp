@@ -297,8 +297,8 @@ protected:
   static void ExpectNoTips(const Form& form)
   {
     for (const QWidget* control : form.Controls()) {
-      EXPECT_EQ(control->toolTip(), QString()) << form.Name().toStdString() << " "
-                                               << control->objectName().toStdString();
+      EXPECT_EQ(control->toolTip(), QString())
+          << form.Name().toStdString() << " " << control->objectName().toStdString();
     }
   }
 

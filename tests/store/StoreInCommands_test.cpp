@@ -225,20 +225,6 @@ TEST_F(StoreInCommands, ARowAddedInACommandThatWasTakenBackIsGone)
   }
 }
 
-TEST_F(StoreInCommands, ARowIsThereAgainWhenItsDeletionWasTakenBack)
-{
-  for (const bool isTable : {false, true}) {
-    const auto cursor = isTable ? database.OpenRecordset("People", Database::kTable) : Open();
-    cursor->MoveNext();
-    EXPECT_THROW(Command::Run([&] {
-                   cursor->Delete();
-                   throw std::runtime_error("stop");
-                 }),
-                 std::runtime_error);
-    EXPECT_EQ(LastNames(*cursor), before);
-  }
-}
-
 TEST_F(StoreInCommands, AFailureThatIsSteppedOverTakesNothingBack)
 {
   folder.Execute("INSERT INTO Ann (Spouse1ID) VALUES (1)");

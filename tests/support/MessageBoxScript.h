@@ -18,8 +18,7 @@ public:
   ~MessageBoxScript() override;
 
   void Expect(const QString& text, QMessageBox::StandardButtons buttons = QMessageBox::Ok,
-              QMessageBox::StandardButton answer = QMessageBox::Ok,
-              const QString& title = QStringLiteral("Quillmark"));
+              QMessageBox::StandardButton answer = QMessageBox::Ok, const QString& title = QStringLiteral("Quillmark"));
 
   // How many boxes have come so far.
   [[nodiscard]] std::size_t Count() const { return came_; }
