@@ -7,26 +7,15 @@
 
 #include <QListView>
 
-namespace {
-
-// A drop-down list that does not measure all of its lines before it opens.
-class DropDownList : public QListView
-{
-public:
-  using QListView::QListView;
-
-  [[nodiscard]] int sizeHintForColumn(int) const override { return -1; }
-};
-
-}
-
 ComboBox::ComboBox(QWidget* parent) : QComboBox(parent), lines_(new LinesModel(this))
 {
-  auto* list = new DropDownList(this);
+  auto* list = new QListView(this);
   list->setUniformItemSizes(true);
   list->setLayoutMode(QListView::SinglePass);
   setView(list);
   setModel(lines_);
+  // As a pop-up the toolkit would measure every line before it opens.
+  setStyleSheet(QStringLiteral("combobox-popup: 0"));
   setCurrentIndex(-1);
   setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
   connect(this, &QComboBox::activated, this, &ComboBox::Click);

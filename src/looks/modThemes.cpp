@@ -13,6 +13,7 @@
 #include "platform/LoadPicture.h"
 #include "platform/Twips.h"
 #include "store/DBEngine.h"
+#include "store/Options.h"
 
 #include <algorithm>
 
@@ -145,15 +146,11 @@ void ApplyToOneForm(Form& form, int theme)
 int ReadTheme()
 {
   Database database = DBEngine::OpenDatabase();
-  const auto options = database.OpenRecordset(QStringLiteral("Options"), Database::kTable);
-  const QVariant theme = options->Fields(QStringLiteral("Theme")).Value();
-  if (theme.isNull()) {
-    RaiseError(ErrorNumber::kInvalidUseOfNull);
-  }
-  if (theme.toInt() < 0 || theme.toInt() >= kThemeCount) {
+  const int theme = Options::Required(*Options::Open(database), QStringLiteral("Theme")).toInt();
+  if (theme < 0 || theme >= kThemeCount) {
     RaiseError(ErrorNumber::kSubscriptOutOfRange);
   }
-  return theme.toInt();
+  return theme;
 }
 
 }
@@ -196,11 +193,7 @@ void ApplyTheme()
 
 void Choose(int theme)
 {
-  Database database = DBEngine::OpenDatabase();
-  const auto options = database.OpenRecordset(QStringLiteral("Options"), Database::kTable);
-  options->Edit();
-  options->Fields(QStringLiteral("Theme")).SetValue(theme);
-  options->Update();
+  Options::Write(QStringLiteral("Theme"), theme);
   calendarHasPicture = false;
 }
 

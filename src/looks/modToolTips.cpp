@@ -7,7 +7,7 @@
 #include "controls/Forms.h"
 #include "looks/ToolTipTable.h"
 #include "platform/Attempt.h"
-#include "store/DBEngine.h"
+#include "store/Options.h"
 
 #include <algorithm>
 
@@ -35,15 +35,6 @@ void SetRow(const Form& form, const ToolTipRow& row)
       element->setToolTip(text);
     }
   }
-}
-
-void WriteChoice()
-{
-  Database database = DBEngine::OpenDatabase();
-  const auto options = database.OpenRecordset(QStringLiteral("Options"), Database::kTable);
-  options->Edit();
-  options->Fields(QStringLiteral("ToolTips")).SetValue(tipsOff);
-  options->Update();
 }
 
 }
@@ -76,7 +67,7 @@ void SetTips(Form& form)
 void Choose(bool off)
 {
   tipsOff = off;
-  Attempt(WriteChoice);
+  Attempt([] { Options::Write(QStringLiteral("ToolTips"), tipsOff); });
   for (Form* form : Forms::AllLoaded()) {
     if (HasTips(*form)) {
       SetTips(*form);

@@ -3,7 +3,7 @@
 
 #include "reminders/ReminderRule.h"
 
-#include "store/Recordset.h"
+#include "store/Options.h"
 
 namespace {
 
@@ -22,16 +22,6 @@ QString Prefix(ReminderKind kind)
 
 }
 
-bool IsTrue(const QVariant& value)
-{
-  return !value.isNull() && value.toBool();
-}
-
-bool IsFalse(const QVariant& value)
-{
-  return !value.isNull() && !value.toBool();
-}
-
 bool ReminderRule::HoldsOnce(int daysToGo) const
 {
   return on && once && length == daysToGo;
@@ -47,7 +37,7 @@ ReminderRule ReadRule(Recordset& options, ReminderKind kind)
   const QString prefix = Prefix(kind);
   const QVariant length = options.Fields(prefix + QLatin1String("Length")).Value();
   const auto isTrue = [&](const char* column) {
-    return IsTrue(options.Fields(prefix + QLatin1String(column)).Value());
+    return Options::IsTrue(options.Fields(prefix + QLatin1String(column)).Value());
   };
   return {isTrue("Audio"), isTrue("Once"), isTrue("Many"),
           length.isNull() ? std::nullopt : std::optional<int>(length.toInt())};
@@ -55,7 +45,7 @@ ReminderRule ReadRule(Recordset& options, ReminderKind kind)
 
 bool RemindersActive(Recordset& options)
 {
-  return !(IsFalse(options.Fields(QStringLiteral("BirthAudio")).Value()) &&
-           IsFalse(options.Fields(QStringLiteral("AnnAudio")).Value()) &&
-           IsFalse(options.Fields(QStringLiteral("CalAudio")).Value()));
+  return !(Options::IsFalse(options.Fields(QStringLiteral("BirthAudio")).Value()) &&
+           Options::IsFalse(options.Fields(QStringLiteral("AnnAudio")).Value()) &&
+           Options::IsFalse(options.Fields(QStringLiteral("CalAudio")).Value()));
 }

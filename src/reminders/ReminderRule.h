@@ -37,7 +37,3 @@ struct ReminderRule
 
 // False if all three kinds are switched off.
 [[nodiscard]] bool RemindersActive(Recordset& options);
-
-// A YesNo compared with True or False; Null is neither.
-[[nodiscard]] bool IsTrue(const QVariant& value);
-[[nodiscard]] bool IsFalse(const QVariant& value);

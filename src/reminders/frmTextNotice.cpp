@@ -18,6 +18,7 @@
 #include "reminders/NoticeTexts.h"
 #include "reminders/modTextNotices.h"
 #include "store/DBEngine.h"
+#include "store/Options.h"
 #include "ui_frmTextNotice.h"
 
 static void LoadResources()
@@ -29,11 +30,6 @@ namespace {
 
 constexpr int kWidthWithDetails = 7740;
 constexpr int kMessageFontSize = 10;
-
-std::unique_ptr<Recordset> OpenOptions(Database& database)
-{
-  return database.OpenRecordset(QStringLiteral("Options"), Database::kTable);
-}
 
 }
 
@@ -129,7 +125,7 @@ void frmTextNotice::lstNotices_Click()
 void frmTextNotice::ShowDetails(ReminderKind kind)
 {
   Database database = DBEngine::OpenDatabase();
-  const auto options = OpenOptions(database);
+  const auto options = Options::Open(database);
   setFixedWidth(PixelsFromTwips(kWidthWithDetails));
   ui_->lstMoreInfo->Clear();
   if (!RemindersActive(*options)) {
@@ -160,10 +156,10 @@ void frmTextNotice::lblOptions_Click(int index)
 void frmTextNotice::BringFrameBack()
 {
   Database database = DBEngine::OpenDatabase();
-  const QVariant maximised = OpenOptions(database)->Fields(QStringLiteral("WindowState")).Value();
-  if (IsFalse(maximised)) {
+  const QVariant maximised = Options::Open(database)->Fields(QStringLiteral("WindowState")).Value();
+  if (Options::IsFalse(maximised)) {
     Frame::Current().SetState(WindowState::kNormal);
-  } else if (IsTrue(maximised)) {
+  } else if (Options::IsTrue(maximised)) {
     Frame::Current().SetState(WindowState::kMaximised);
   }
 }

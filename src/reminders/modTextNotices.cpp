@@ -13,6 +13,7 @@
 #include "reminders/ReminderOutcome.h"
 #include "reminders/ReminderRule.h"
 #include "store/DBEngine.h"
+#include "store/Options.h"
 #include "store/Queries.h"
 
 namespace modTextNotices {
@@ -72,7 +73,9 @@ void LookForHits(Database& database, Recordset& options)
 
 ReminderFacts ReadFacts(Recordset& options, bool manual)
 {
-  const auto setting = [&](const char* column) { return IsTrue(options.Fields(QLatin1String(column)).Value()); };
+  const auto setting = [&](const char* column) {
+    return Options::IsTrue(options.Fields(QLatin1String(column)).Value());
+  };
   ReminderFacts facts;
   facts.active = RemindersActive(options);
   facts.manual = manual;
@@ -83,21 +86,12 @@ ReminderFacts ReadFacts(Recordset& options, bool manual)
   return facts;
 }
 
-void ReadTipFlag(Recordset& options)
-{
-  const QVariant tipsOff = options.Fields(QStringLiteral("ToolTips")).Value();
-  if (tipsOff.isNull()) {
-    RaiseError(ErrorNumber::kInvalidUseOfNull);
-  }
-  modToolTips::SetTipsOff(tipsOff.toBool());
-}
-
 // The store is let go of before a window waits for its user.
 ReminderFacts LookUp(bool manual)
 {
   Database database = DBEngine::OpenDatabase();
-  const auto options = database.OpenRecordset(QStringLiteral("Options"), Database::kTable);
-  ReadTipFlag(*options);
+  const auto options = Options::Open(database);
+  modToolTips::SetTipsOff(Options::Required(*options, QStringLiteral("ToolTips")).toBool());
   if (RemindersActive(*options)) {
     LookForHits(database, *options);
   }

@@ -20,6 +20,7 @@
 #include "reminders/modTextNotices.h"
 #include "shell/PageSwitch.h"
 #include "store/DBEngine.h"
+#include "store/Options.h"
 #include "ui_mdiQuillmark.h"
 
 #include <QCloseEvent>
@@ -49,19 +50,14 @@ int AtLeast(int pixels, int smallestTwips)
   return TwipsFromPixels(pixels) < smallestTwips ? PixelsFromTwips(smallestTwips + kGap) : pixels;
 }
 
-std::unique_ptr<Recordset> OpenOptions(Database& database)
-{
-  return database.OpenRecordset(QStringLiteral("Options"), Database::kTable);
-}
-
 }
 
 struct mdiQuillmark::Store
 {
   Database database = DBEngine::OpenDatabase();
-  std::unique_ptr<Recordset> theme = OpenOptions(database);
-  std::unique_ptr<Recordset> windowState = OpenOptions(database);
-  std::unique_ptr<Recordset> toolTips = OpenOptions(database);
+  std::unique_ptr<Recordset> theme = Options::Open(database);
+  std::unique_ptr<Recordset> windowState = Options::Open(database);
+  std::unique_ptr<Recordset> toolTips = Options::Open(database);
 };
 
 mdiQuillmark::mdiQuillmark() : ui_(std::make_unique<Ui::mdiQuillmark>()), tmrTimer_(this)
@@ -153,12 +149,8 @@ void mdiQuillmark::Load()
   RestoreState();
   setWindowIcon(LoadPicture(App::File(QStringLiteral("/animp.ico"))));
   Centre();
-  MarkTheme(store_->theme->Fields(QStringLiteral("Theme")).Value().toInt());
-  const QVariant tipsOff = store_->toolTips->Fields(QStringLiteral("ToolTips")).Value();
-  if (tipsOff.isNull()) {
-    RaiseError(ErrorNumber::kInvalidUseOfNull);
-  }
-  modToolTips::SetTipsOff(tipsOff.toBool());
+  MarkTheme(Options::Required(*store_->theme, QStringLiteral("Theme")).toInt());
+  modToolTips::SetTipsOff(Options::Required(*store_->toolTips, QStringLiteral("ToolTips")).toBool());
   MarkTips();
   loaded_ = true;
 }
@@ -331,11 +323,7 @@ void mdiQuillmark::WriteState() const
   if (State() == WindowState::kMinimised) {
     return;
   }
-  Database database = DBEngine::OpenDatabase();
-  const auto options = OpenOptions(database);
-  options->Edit();
-  options->Fields(QStringLiteral("WindowState")).SetValue(State() == WindowState::kMaximised);
-  options->Update();
+  Options::Write(QStringLiteral("WindowState"), State() == WindowState::kMaximised);
 }
 
 void mdiQuillmark::mnuLists_Click(int index)

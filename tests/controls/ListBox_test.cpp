@@ -277,12 +277,12 @@ TEST_F(ListBoxTest, LineIsChosenByKeyboard)
   }
 }
 
-TEST_F(ListBoxTest, FirstArrowKeyChoosesALine)
+TEST_F(ListBoxTest, FirstArrowKeyChoosesTheFirstLine)
 {
   Show();
   list_.setFocus(Qt::TabFocusReason);
   QTest::keyClick(&list_, Qt::Key_Down);
-  EXPECT_NE(list_.ListIndex(), -1);
+  EXPECT_EQ(list_.ListIndex(), 0);
   EXPECT_EQ(clicks_.count(), 1);
 }
 

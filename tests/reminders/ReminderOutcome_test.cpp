@@ -104,6 +104,4 @@ TEST(ReminderRule, SwitchedOffOrUnknownNeverHolds)
   EXPECT_FALSE((ReminderRule{false, true, true, 0}).Holds(0));
   EXPECT_FALSE((ReminderRule{true, true, true, std::nullopt}).Holds(0));
   EXPECT_FALSE((ReminderRule{true, false, false, 0}).Holds(0));
-  EXPECT_FALSE(IsTrue(QVariant()));
-  EXPECT_FALSE(IsFalse(QVariant()));
 }

@@ -277,7 +277,10 @@ TEST_F(ShellTest, WhatIsMissingAtTheStartIsNamedByItsNumber)
   Set("ToolTips=NULL");
   EXPECT_EQ(NumberThrownByStart([&] { Start(); }), 94);
   frame.reset();
-  Set("ToolTips=0");
+  Set("ToolTips=0, Theme=NULL");
+  EXPECT_EQ(NumberThrownByStart([&] { Start(); }), 94);
+  frame.reset();
+  Set("Theme=1");
   QFile::remove(folder.File("/animp.ico"));
   EXPECT_EQ(NumberThrownByStart([&] { Start(); }), 53);
   frame.reset();

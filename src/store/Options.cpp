@@ -1,0 +1,44 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "store/Options.h"
+
+#include "platform/RuntimeError.h"
+#include "store/DBEngine.h"
+
+namespace Options {
+
+std::unique_ptr<Recordset> Open(Database& database)
+{
+  return database.OpenRecordset(QStringLiteral("Options"), Database::kTable);
+}
+
+QVariant Required(Recordset& options, const QString& column)
+{
+  QVariant value = options.Fields(column).Value();
+  if (value.isNull()) {
+    RaiseError(ErrorNumber::kInvalidUseOfNull);
+  }
+  return value;
+}
+
+void Write(const QString& column, const QVariant& value)
+{
+  Database database = DBEngine::OpenDatabase();
+  const auto options = Open(database);
+  options->Edit();
+  options->Fields(column).SetValue(value);
+  options->Update();
+}
+
+bool IsTrue(const QVariant& value)
+{
+  return !value.isNull() && value.toBool();
+}
+
+bool IsFalse(const QVariant& value)
+{
+  return !value.isNull() && !value.toBool();
+}
+
+}
