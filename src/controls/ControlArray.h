@@ -35,6 +35,8 @@ public:
         elements_[index] = element;
         if constexpr (requires { &T::Click; }) {
           connect(element, &T::Click, this, [this, index] { Q_EMIT Click(index); });
+        } else if constexpr (requires { &T::clicked; }) {
+          connect(element, &T::clicked, this, [this, index] { Q_EMIT Click(index); });
         }
       }
     }

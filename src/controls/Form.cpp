@@ -11,6 +11,7 @@
 #include <QCloseEvent>
 #include <QEventLoop>
 #include <QPainter>
+#include <QPointer>
 
 #include <algorithm>
 
@@ -80,7 +81,11 @@ void Form::ShowModal()
   Open(Qt::ApplicationModal);
   QEventLoop loop;
   modalLoop_ = &loop;
+  const QPointer<Form> self(this);
   loop.exec();
+  if (self) {
+    self->modalLoop_ = nullptr;
+  }
 }
 
 void Form::ShowTopmost()
@@ -96,6 +101,9 @@ void Form::Hide()
 
 bool Form::Unload()
 {
+  if (Forms::Loaded(Name()) != this) {
+    return true;
+  }
   bool cancel = false;
   Form_QueryUnload(cancel);
   if (cancel) {
@@ -140,10 +148,13 @@ Form::Elements Form::ArrayNamed(const QString& name) const
   std::vector<std::pair<int, QWidget*>> found;
   const QString prefix = name + QLatin1Char('_');
   for (QWidget* control : controls_) {
-    bool isNumber = false;
     const QString controlName = control->objectName();
-    const int index = controlName.mid(prefix.size()).toInt(&isNumber);
-    if (isNumber && controlName.startsWith(prefix)) {
+    if (!controlName.startsWith(prefix)) {
+      continue;
+    }
+    bool isNumber = false;
+    const int index = QStringView(controlName).mid(prefix.size()).toInt(&isNumber);
+    if (isNumber) {
       found.emplace_back(index, control);
     }
   }

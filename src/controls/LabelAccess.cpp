@@ -6,6 +6,7 @@
 #include "controls/Label.h"
 
 #include <QAccessibleWidget>
+#include <QApplication>
 
 namespace {
 
@@ -33,7 +34,7 @@ public:
 
   void doAction(const QString& name) override
   {
-    if (name == pressAction() && label_.isEnabled()) {
+    if (name == pressAction() && label_.isEnabled() && !IsBlocked()) {
       Q_EMIT label_.Click();
     } else {
       QAccessibleWidget::doAction(name);
@@ -41,6 +42,13 @@ public:
   }
 
 private:
+  // A window that stands modally keeps the others from being used.
+  [[nodiscard]] bool IsBlocked() const
+  {
+    const QWidget* modal = QApplication::activeModalWidget();
+    return modal != nullptr && modal != label_.window();
+  }
+
   Label& label_;
 };
 

@@ -3,6 +3,7 @@
 
 #include "controls/LinesModel.h"
 
+#include "platform/RuntimeError.h"
 #include "platform/TextOrder.h"
 
 #include <algorithm>
@@ -33,14 +34,23 @@ void LinesModel::Insert(int index, const QStringList& lines)
   endInsertRows();
 }
 
+void LinesModel::MustHave(int index) const
+{
+  if (index < 0 || index >= Count()) {
+    RaiseError(ErrorNumber::kSubscriptOutOfRange);
+  }
+}
+
 void LinesModel::Replace(int index, const QString& line)
 {
+  MustHave(index);
   lines_[static_cast<std::size_t>(index)] = line;
   Q_EMIT dataChanged(createIndex(index, 0), createIndex(index, 0));
 }
 
 void LinesModel::Remove(int index)
 {
+  MustHave(index);
   beginRemoveRows({}, index, index);
   lines_.erase(lines_.begin() + index);
   endRemoveRows();
@@ -55,8 +65,14 @@ void LinesModel::Clear()
 
 void LinesModel::Sort()
 {
+  std::vector<std::pair<std::string, QString>> keyed;
+  keyed.reserve(lines_.size());
+  for (const QString& line : lines_) {
+    keyed.emplace_back(TextOrder::Key(line), line);
+  }
+  std::stable_sort(keyed.begin(), keyed.end(), [](const auto& a, const auto& b) { return a.first < b.first; });
   beginResetModel();
-  std::stable_sort(lines_.begin(), lines_.end(), TextOrder::Less);
+  std::transform(keyed.begin(), keyed.end(), lines_.begin(), [](const auto& pair) { return pair.second; });
   endResetModel();
 }
 

@@ -21,8 +21,8 @@ public:
   [[nodiscard]] int Count() const { return static_cast<int>(lines_.size()); }
   [[nodiscard]] QString Line(int index) const;  // empty for an index outside
   void Insert(int index, const QStringList& lines);
-  void Replace(int index, const QString& line);
-  void Remove(int index);
+  void Replace(int index, const QString& line);  // throws 9 for an index outside
+  void Remove(int index);                        // throws 9 for an index outside
   void Clear();
   void Sort();  // by TextOrder, equal ones in the order they came
 
@@ -30,5 +30,7 @@ public:
   [[nodiscard]] int SortedPlace(const QString& line) const;
 
 private:
+  void MustHave(int index) const;
+
   std::vector<QString> lines_;
 };

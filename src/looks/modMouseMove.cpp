@@ -22,7 +22,7 @@ constexpr int kRowCount = 7;
 
 struct Look
 {
-  const char* array;
+  const char* array = nullptr;
   bool underline = false;
 };
 
@@ -117,10 +117,7 @@ public:
   {
     if (event->type() == QEvent::MouseMove || event->type() == QEvent::Enter) {
       MoveOver(*watched);
-      // A label would pass the move on to the form behind it.
-      return event->type() == QEvent::MouseMove && qobject_cast<Label*>(watched) != nullptr;
-    }
-    if (event->type() == QEvent::Leave) {
+    } else if (event->type() == QEvent::Leave) {
       ResetAll(form_);
     }
     return false;
@@ -136,13 +133,15 @@ private:
   void Listen(QWidget& widget)
   {
     widget.setMouseTracking(true);
+    // A label would pass its moves on to the form behind it.
+    widget.setAttribute(Qt::WA_NoMousePropagation, qobject_cast<Label*>(&widget) != nullptr);
     widget.installEventFilter(this);
   }
 
   void MoveOver(QObject& watched)
   {
     const auto place = places_.constFind(&watched);
-    if (place == places_.constEnd()) {
+    if (place == places_.constEnd() || !static_cast<QWidget&>(watched).isEnabled()) {
       ResetAll(form_);
       return;
     }

@@ -8,6 +8,9 @@
 #include "platform/MsgBox.h"
 #include "platform/RuntimeError.h"
 
+#include <QThread>
+
+#include <new>
 #include <unistd.h>
 
 namespace {
@@ -23,18 +26,26 @@ Application::Application(int& argc, char** argv) : QApplication(argc, argv)
   setQuitOnLastWindowClosed(false);
 }
 
+// The toolkit's own threads, such as the one that loads sounds, deliver events too.
 bool Application::notify(QObject* receiver, QEvent* event)
 {
-  if (Command::IsRunning()) {
+  if (QThread::currentThread() != thread() || Command::IsRunning()) {
     return QApplication::notify(receiver, event);
   }
   bool handled = false;
+  RunGuarded([&] { handled = QApplication::notify(receiver, event); });
+  return handled;
+}
+
+void Application::RunGuarded(const std::function<void()>& work)
+{
   try {
-    Command::Run([&] { handled = QApplication::notify(receiver, event); });
+    Command::Run(work);
   } catch (const RuntimeError& error) {
     StopOn(error);
+  } catch (const std::bad_alloc&) {
+    StopOn(RuntimeError(ErrorNumber::kOutOfMemory, QStringLiteral("Out of memory")));
   }
-  return handled;
 }
 
 // The process ends without unwinding: the failure has been thrown through the

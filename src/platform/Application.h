@@ -18,6 +18,9 @@ public:
 
   bool notify(QObject* receiver, QEvent* event) override;
 
+  // Runs `work` as a command; a failure that leaves it ends in StopOn.
+  static void RunGuarded(const std::function<void()>& work);
+
   // Shows the failure and ends the program, with status 1.
   static void StopOn(const RuntimeError& error);
 

@@ -15,7 +15,7 @@ QPixmap LoadPicture(const QString& path)
   }
   QImageReader reader(path);
   reader.setDecideFormatFromContent(true);
-  const QPixmap picture = QPixmap::fromImageReader(&reader);
+  QPixmap picture = QPixmap::fromImageReader(&reader);
   if (picture.isNull()) {
     RaiseError(ErrorNumber::kInvalidPicture);
   }

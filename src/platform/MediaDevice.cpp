@@ -4,26 +4,41 @@
 #include "platform/MediaDevice.h"
 
 #include <QAudioDevice>
+#include <QDateTime>
 #include <QElapsedTimer>
-#include <QFile>
+#include <QFileInfo>
 #include <QMediaDevices>
 #include <QSoundEffect>
 #include <QUrl>
 #include <QtEndian>
 
-#include <memory>
+#include <map>
+#include <optional>
 
 namespace MediaDevice {
 namespace {
 
 struct Clip
 {
-  QSoundEffect effect;
+  QSoundEffect* effect = nullptr;
   qint64 milliseconds = 0;
   QElapsedTimer sincePlay;
 };
 
-std::unique_ptr<Clip> clip;
+std::optional<Clip> clip;
+
+// The effects are kept for good: the toolkit's loader may wait for ever for itself when
+// a sound goes while it is being loaded. A file that has changed is another sound.
+QSoundEffect& EffectFor(const QString& path)
+{
+  static std::map<std::pair<QString, QDateTime>, QSoundEffect*> effects;
+  QSoundEffect*& effect = effects[{path, QFileInfo(path).lastModified()}];
+  if (effect == nullptr) {
+    effect = new QSoundEffect;
+    effect->setSource(QUrl::fromLocalFile(path));
+  }
+  return *effect;
+}
 
 // How long a .wav file plays; 0 if it is none.
 qint64 ClipLength(const QString& path)
@@ -54,36 +69,37 @@ bool HasRunItsTime()
 
 void Open(const QString& path)
 {
+  if (clip && clip->effect->status() == QSoundEffect::Error) {
+    clip.reset();
+  }
   const qint64 length = clip ? 0 : ClipLength(path);
   if (length > 0) {
-    clip = std::make_unique<Clip>();
-    clip->milliseconds = length;
-    clip->effect.setSource(QUrl::fromLocalFile(path));
+    clip = Clip{&EffectFor(path), length, {}};
   }
 }
 
 void Play()
 {
   if (clip) {
-    clip->effect.stop();
-    clip->effect.play();
+    clip->effect->stop();
+    clip->effect->play();
     clip->sincePlay.start();
   }
 }
 
 QString Mode()
 {
-  if (!clip || clip->effect.status() == QSoundEffect::Error) {
+  if (!clip || clip->effect->status() == QSoundEffect::Error) {
     return {};
   }
-  const bool playing = clip->sincePlay.isValid() && clip->effect.isPlaying() && !HasRunItsTime();
+  const bool playing = clip->sincePlay.isValid() && clip->effect->isPlaying() && !HasRunItsTime();
   return playing ? QStringLiteral("playing") : QStringLiteral("stopped");
 }
 
 void Close()
 {
   if (clip) {
-    clip->effect.stop();
+    clip->effect->stop();
     clip.reset();
   }
 }

@@ -31,6 +31,7 @@ private:
 // Numbers of failures that do not belong to the store.
 namespace ErrorNumber {
 inline constexpr int kOverflow = 6;
+inline constexpr int kOutOfMemory = 7;
 inline constexpr int kSubscriptOutOfRange = 9;
 inline constexpr int kTypeMismatch = 13;
 inline constexpr int kFileNotFound = 53;

@@ -3,6 +3,8 @@
 
 #include "platform/TextOrder.h"
 
+#include "platform/Utf8.h"
+
 #include <algorithm>
 
 namespace TextOrder {
@@ -23,7 +25,7 @@ char FoldAscii(char c)
 std::string Key(std::string_view utf8)
 {
   if (!IsAscii(utf8)) {
-    return Key(QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size())));
+    return Key(FromUtf8(utf8));
   }
   std::string key(utf8);
   std::transform(key.begin(), key.end(), key.begin(), FoldAscii);

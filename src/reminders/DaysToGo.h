@@ -38,7 +38,7 @@ private:
 
   QDate today_;
   int month_ = 0;
-  std::array<int, 13 * kKnownDays> counted_;
+  std::array<int, 13 * kKnownDays> counted_{};
 };
 
 // The date of a year, month and day, where a month or a day too many carries over.

@@ -8,24 +8,12 @@
 #include "store/Database.h"
 #include "store/Queries.h"
 
+namespace NoticeDetails {
 namespace {
 
 QString TextOf(Recordset& rows, const char* column)
 {
   return rows.Fields(QLatin1String(column)).Value().toString();
-}
-
-const QString& QueryFor(ReminderKind kind)
-{
-  switch (kind) {
-    case ReminderKind::kBirthday:
-      return Queries::kNoticeBirthdays;
-    case ReminderKind::kAnniversary:
-      return Queries::kNoticeAnniversaries;
-    case ReminderKind::kEvent:
-      break;
-  }
-  return Queries::kNoticeEvents;
 }
 
 std::optional<int> DaysOf(Recordset& rows, ReminderKind kind, DaysToGo& days)
@@ -57,23 +45,35 @@ QString NameOf(Recordset& rows, ReminderKind kind)
 
 }
 
-NoticeDetails NoticeDetails::Read(Database& database, ReminderKind kind, const ReminderRule& rule, QDate today)
+const QString& QueryFor(ReminderKind kind)
 {
-  NoticeDetails details;
+  switch (kind) {
+    case ReminderKind::kBirthday:
+      return Queries::kNoticeBirthdays;
+    case ReminderKind::kAnniversary:
+      return Queries::kNoticeAnniversaries;
+    case ReminderKind::kEvent:
+      break;
+  }
+  return Queries::kNoticeEvents;
+}
+
+QStringList ReadEntries(Recordset& rows, ReminderKind kind, const ReminderRule& rule, QDate today,
+                        const std::function<void(const QString&)>& onSentence)
+{
+  QStringList entries;
   DaysToGo days(today);
-  const auto rows = database.OpenRecordset(QueryFor(kind), Database::kDynaset);
-  for (; !rows->Eof(); rows->MoveNext()) {
-    const std::optional<int> daysToGo = DaysOf(*rows, kind, days);
-    if (!daysToGo) {
+  for (; !rows.Eof(); rows.MoveNext()) {
+    const std::optional<int> daysToGo = DaysOf(rows, kind, days);
+    if (!daysToGo || !rule.Holds(*daysToGo)) {
       continue;
     }
-    if (rule.HoldsOnce(*daysToGo)) {
-      details.entries.append(NameOf(*rows, kind));
-      details.sentence = NoticeTexts::OnceSentence(kind, *rule.length);
-    } else if (rule.HoldsMany(*daysToGo)) {
-      details.entries.append(NoticeTexts::Entry(*daysToGo, *rule.length, NameOf(*rows, kind)));
-      details.sentence = NoticeTexts::ManySentence(kind, *rule.length);
-    }
+    const bool once = rule.HoldsOnce(*daysToGo);
+    const QString name = NameOf(rows, kind);
+    entries.append(once ? name : NoticeTexts::Entry(*daysToGo, *rule.length, name));
+    onSentence(once ? NoticeTexts::OnceSentence(kind, *rule.length) : NoticeTexts::ManySentence(kind, *rule.length));
   }
-  return details;
+  return entries;
+}
+
 }

@@ -8,13 +8,19 @@
 #include <QDate>
 #include <QStringList>
 
-class Database;
+#include <functional>
+
+class Recordset;
 
 // Who or what is coming up of one kind, by the rule of the settings.
-struct NoticeDetails
-{
-  QStringList entries;  // in the order of the query
-  QString sentence;     // empty if nothing fits
+namespace NoticeDetails {
 
-  [[nodiscard]] static NoticeDetails Read(Database& database, ReminderKind kind, const ReminderRule& rule, QDate today);
-};
+// The query behind a kind's details.
+[[nodiscard]] const QString& QueryFor(ReminderKind kind);
+
+// Reads all rows of that query and gives an entry for each that fits, in their order.
+// `onSentence` hears what the user has chosen as soon as a row fits.
+[[nodiscard]] QStringList ReadEntries(Recordset& rows, ReminderKind kind, const ReminderRule& rule, QDate today,
+                                      const std::function<void(const QString&)>& onSentence);
+
+}

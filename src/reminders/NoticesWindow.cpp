@@ -14,8 +14,10 @@ namespace {
 
 using namespace modTextNotices;
 
+// A fresh window: start-up notices that still stand give way to it.
 frmTextNotice& Window()
 {
+  Forms::Unload(QStringLiteral("frmTextNotice"));
   return static_cast<frmTextNotice&>(Forms::Load(QStringLiteral("frmTextNotice")));
 }
 

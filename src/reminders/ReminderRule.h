@@ -5,6 +5,7 @@
 
 #include <QVariant>
 
+#include <array>
 #include <optional>
 
 class Recordset;
@@ -16,6 +17,8 @@ enum class ReminderKind
   kAnniversary,
   kEvent,
 };
+
+inline constexpr std::array kAllKinds = {ReminderKind::kBirthday, ReminderKind::kAnniversary, ReminderKind::kEvent};
 
 // When to remind of one kind, as the settings say.
 struct ReminderRule

@@ -21,6 +21,8 @@
 #include "store/Options.h"
 #include "ui_frmTextNotice.h"
 
+#include <map>
+
 static void LoadResources()
 {
   Q_INIT_RESOURCE(reminders);
@@ -114,7 +116,7 @@ void frmTextNotice::lstNotices_Click()
 {
   Attempt([this] {
     const QString line = ui_->lstNotices->Text();
-    for (const ReminderKind kind : {ReminderKind::kBirthday, ReminderKind::kAnniversary, ReminderKind::kEvent}) {
+    for (const ReminderKind kind : kAllKinds) {
       if (line == NoticeTexts::Line(kind)) {
         ShowDetails(kind);
       }
@@ -122,20 +124,23 @@ void frmTextNotice::lstNotices_Click()
   });
 }
 
+// All queries are opened first: where one fails, the window stays as it is.
 void frmTextNotice::ShowDetails(ReminderKind kind)
 {
   Database database = DBEngine::OpenDatabase();
   const auto options = Options::Open(database);
+  std::map<ReminderKind, std::unique_ptr<Recordset>> rows;
+  for (const ReminderKind each : kAllKinds) {
+    rows[each] = database.OpenRecordset(NoticeDetails::QueryFor(each), Database::kDynaset);
+  }
   setFixedWidth(PixelsFromTwips(kWidthWithDetails));
   ui_->lstMoreInfo->Clear();
   if (!RemindersActive(*options)) {
     return;
   }
-  const NoticeDetails details = NoticeDetails::Read(database, kind, ReadRule(*options, kind), Clock::Today());
-  if (!details.entries.isEmpty()) {
-    ui_->lblExplain->setText(details.sentence);
-    ui_->lstMoreInfo->AddItems(details.entries);
-  }
+  const auto showSentence = [this](const QString& sentence) { ui_->lblExplain->setText(sentence); };
+  ui_->lstMoreInfo->AddItems(
+      NoticeDetails::ReadEntries(*rows[kind], kind, ReadRule(*options, kind), Clock::Today(), showSentence));
 }
 
 void frmTextNotice::lblOptions_Click(int index)

@@ -16,21 +16,24 @@
 #include "store/Options.h"
 #include "store/Queries.h"
 
+#include <array>
+
 namespace modTextNotices {
 namespace {
 
 struct Scan
 {
   ReminderKind kind;
-  const QString& query;
+  std::unique_ptr<Recordset> rows;
   const char* month;
   const char* day;
   const char* clip;
   bool& hit;
 };
 
-bool FindHit(Recordset& rows, const Scan& scan, const ReminderRule& rule)
+bool FindHit(const Scan& scan, const ReminderRule& rule)
 {
+  Recordset& rows = *scan.rows;
   DaysToGo days(Clock::Today());
   const Field& month = rows.Fields(QLatin1String(scan.month));
   const Field& day = rows.Fields(QLatin1String(scan.day));
@@ -51,20 +54,22 @@ void QueueClip(int place, const char* clip)
   ClipFiles[place] = folder + QLatin1String(clip);
 }
 
-void LookForHits(Database& database, Recordset& options)
+std::array<Scan, 3> OpenScans(Database& database)
+{
+  const auto open = [&](const QString& query) { return database.OpenRecordset(query, Database::kDynaset); };
+  return {{{ReminderKind::kBirthday, open(Queries::kCheckBirthdays), "BirthMonth", "BirthDate", "/notices/hapbirth.wav",
+            BirthdayHit},
+           {ReminderKind::kAnniversary, open(Queries::kCheckAnniversaries), "AnnMonth", "AnnDate",
+            "/notices/wmfade2.wav", AnniversaryHit},
+           {ReminderKind::kEvent, open(Queries::kCheckEvents), "Month", "Date", "/notices/jad0044.wav", CalendarHit}}};
+}
+
+void LookForHits(const std::array<Scan, 3>& scans, Recordset& options)
 {
   BirthdayHit = AnniversaryHit = CalendarHit = false;
-  const Scan scans[] = {
-      {ReminderKind::kBirthday, Queries::kCheckBirthdays, "BirthMonth", "BirthDate", "/notices/hapbirth.wav",
-       BirthdayHit},
-      {ReminderKind::kAnniversary, Queries::kCheckAnniversaries, "AnnMonth", "AnnDate", "/notices/wmfade2.wav",
-       AnniversaryHit},
-      {ReminderKind::kEvent, Queries::kCheckEvents, "Month", "Date", "/notices/jad0044.wav", CalendarHit},
-  };
   int clipCount = 0;
   for (const Scan& scan : scans) {
-    const auto rows = database.OpenRecordset(scan.query, Database::kDynaset);
-    if (FindHit(*rows, scan, ReadRule(options, scan.kind))) {
+    if (FindHit(scan, ReadRule(options, scan.kind))) {
       QueueClip(clipCount++, scan.clip);
       scan.hit = true;
     }
@@ -92,8 +97,9 @@ ReminderFacts LookUp(bool manual)
   Database database = DBEngine::OpenDatabase();
   const auto options = Options::Open(database);
   modToolTips::SetTipsOff(Options::Required(*options, QStringLiteral("ToolTips")).toBool());
+  const std::array<Scan, 3> scans = OpenScans(database);
   if (RemindersActive(*options)) {
-    LookForHits(database, *options);
+    LookForHits(scans, *options);
   }
   return ReadFacts(*options, manual);
 }

@@ -3,8 +3,6 @@
 
 #include "looks/Style.h"
 #include "platform/Application.h"
-#include "platform/Command.h"
-#include "platform/RuntimeError.h"
 #include "shell/StartUp.h"
 #include "shell/mdiQuillmark.h"
 
@@ -14,10 +12,6 @@ int main(int argc, char** argv)
   Style::Apply(application);
   RegisterForms();
   mdiQuillmark frame;
-  try {
-    Command::Run([&] { StartUp(frame); });
-  } catch (const RuntimeError& error) {
-    Application::StopOn(error);
-  }
+  Application::RunGuarded([&] { StartUp(frame); });
   return frame.HasEnded() ? EXIT_SUCCESS : Application::exec();
 }

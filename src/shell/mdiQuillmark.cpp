@@ -5,8 +5,6 @@
 
 #include "controls/Form.h"
 #include "controls/Forms.h"
-#include "controls/modID.h"
-#include "looks/modThemes.h"
 #include "looks/modToolTips.h"
 #include "platform/App.h"
 #include "platform/Attempt.h"
@@ -24,6 +22,7 @@
 #include "ui_mdiQuillmark.h"
 
 #include <QCloseEvent>
+#include <QThread>
 
 namespace {
 
@@ -45,6 +44,13 @@ bool IsYearToRunIn()
   return year >= kFirstYear && year <= kLastYear;
 }
 
+std::unique_ptr<Ui::mdiQuillmark> MakeDesign(mdiQuillmark& frame)
+{
+  auto design = std::make_unique<Ui::mdiQuillmark>();
+  design->setupUi(&frame);
+  return design;
+}
+
 int AtLeast(int pixels, int smallestTwips)
 {
   return TwipsFromPixels(pixels) < smallestTwips ? PixelsFromTwips(smallestTwips + kGap) : pixels;
@@ -60,73 +66,14 @@ struct mdiQuillmark::Store
   std::unique_ptr<Recordset> toolTips = Options::Open(database);
 };
 
-mdiQuillmark::mdiQuillmark() : ui_(std::make_unique<Ui::mdiQuillmark>()), tmrTimer_(this)
+mdiQuillmark::mdiQuillmark() : ui_(MakeDesign(*this)), menu_(*ui_), tmrTimer_(this)
 {
-  ui_->setupUi(this);
   tmrTimer_.setObjectName(QStringLiteral("tmrTimer"));
   tmrTimer_.setInterval(kTimerMilliseconds);
-  CollectMenu();
-  ConnectControls();
-  EnableMenu();
+  connect(&tmrTimer_, &QTimer::timeout, this, &Clips::FollowClip);
 }
 
 mdiQuillmark::~mdiQuillmark() = default;
-
-void mdiQuillmark::CollectMenu()
-{
-  mnuLists_ = {ui_->mnuLists_0, ui_->mnuLists_1, ui_->mnuLists_2};
-  mnuToolTips_ = {ui_->mnuToolTips_0, ui_->mnuToolTips_1};
-  mnuTheme_ = {ui_->mnuTheme_0, ui_->mnuTheme_1, ui_->mnuTheme_2, ui_->mnuTheme_3, ui_->mnuTheme_4, ui_->mnuTheme_5};
-  for (QMenu* menu : ui_->menuBar->findChildren<QMenu*>()) {
-    menu->menuAction()->setObjectName(menu->objectName());
-  }
-}
-
-void mdiQuillmark::ConnectControls()
-{
-  connect(&tmrTimer_, &QTimer::timeout, this, &Clips::FollowClip);
-  for (int index = 0; index < 3; ++index) {
-    connect(mnuLists_[static_cast<std::size_t>(index)], &QAction::triggered, this,
-            [=, this] { mnuLists_Click(index); });
-  }
-  for (int index = 0; index < 2; ++index) {
-    connect(mnuToolTips_[static_cast<std::size_t>(index)], &QAction::triggered, this,
-            [=, this] { mnuToolTips_Click(index); });
-  }
-  for (int index = 0; index < modThemes::kThemeCount; ++index) {
-    connect(mnuTheme_[static_cast<std::size_t>(index)], &QAction::triggered, this,
-            [=, this] { mnuTheme_Click(index); });
-  }
-  ConnectForm(ui_->mnuAutostart, "frmAutoStart", false);
-  ConnectForm(ui_->mnuSetReminders, "frmNotice", false);
-  ConnectForm(ui_->mnuAbout, "frmAbout", false);
-  ConnectForm(ui_->mnuPersonal, "frmNew", true);
-  connect(ui_->mnuReminderCheck, &QAction::triggered, this, [] { modTextNotices::CheckReminders(true); });
-  connect(ui_->mnuAnn, &QAction::triggered, this, &mdiQuillmark::mnuAnn_Click);
-}
-
-void mdiQuillmark::ConnectForm(QAction* action, const char* form, bool isPage)
-{
-  const QString name = QLatin1String(form);
-  connect(action, &QAction::triggered, this, [=, this] { isPage ? OpenPage(name) : Forms::Load(name).ShowModal(); });
-}
-
-void mdiQuillmark::EnableMenu()
-{
-  const std::pair<QAction*, const char*> entries[] = {
-      {ui_->mnuLists_0, "frmQuillmark"},
-      {ui_->mnuLists_1, "frmSpecial"},
-      {ui_->mnuLists_2, "frmPrintCal"},
-      {ui_->mnuAutostart, "frmAutoStart"},
-      {ui_->mnuSetReminders, "frmNotice"},
-      {ui_->mnuPersonal, "frmNew"},
-      {ui_->mnuAnn, "frmAnn"},
-      {ui_->mnuAbout, "frmAbout"},
-  };
-  for (const auto& [action, form] : entries) {
-    action->setEnabled(Forms::IsKnown(QLatin1String(form)));
-  }
-}
 
 void mdiQuillmark::Initialise()
 {
@@ -140,18 +87,21 @@ void mdiQuillmark::Load()
   if (loaded_ || ended_) {
     return;
   }
-  store_ = std::make_unique<Store>();
-  if (!PassGuards()) {
-    Unload();
-    return;
+  if (!guarded_) {
+    store_ = std::make_unique<Store>();
+    guarded_ = true;
+    if (!PassGuards()) {
+      Unload();
+      return;
+    }
+    WarnOfResolution();
   }
-  WarnOfResolution();
   RestoreState();
   setWindowIcon(LoadPicture(App::File(QStringLiteral("/animp.ico"))));
   Centre();
-  MarkTheme(Options::Required(*store_->theme, QStringLiteral("Theme")).toInt());
+  menu_.MarkTheme(Options::Required(*store_->theme, QStringLiteral("Theme")).toInt());
   modToolTips::SetTipsOff(Options::Required(*store_->toolTips, QStringLiteral("ToolTips")).toBool());
-  MarkTips();
+  menu_.MarkTips();
   loaded_ = true;
 }
 
@@ -191,23 +141,6 @@ void mdiQuillmark::Centre()
        PixelsFromTwips(Screen::CentredTop(TwipsFromPixels(height()))));
 }
 
-void mdiQuillmark::MarkTheme(int theme)
-{
-  if (theme < 0 || theme >= modThemes::kThemeCount) {
-    throw RuntimeError(ErrorNumber::kNoSuchElement,
-                       QStringLiteral("Control array element '%1' doesn't exist").arg(theme));
-  }
-  for (int index = 0; index < modThemes::kThemeCount; ++index) {
-    mnuTheme_[static_cast<std::size_t>(index)]->setChecked(index == theme);
-  }
-}
-
-void mdiQuillmark::MarkTips()
-{
-  mnuToolTips_[0]->setChecked(modToolTips::TipsOff());
-  mnuToolTips_[1]->setChecked(!modToolTips::TipsOff());
-}
-
 WindowState mdiQuillmark::State() const
 {
   if (isMinimized()) {
@@ -217,12 +150,17 @@ WindowState mdiQuillmark::State() const
 }
 
 // Whoever touches the frame first has it loaded, so that its load cannot undo what is set.
-void mdiQuillmark::SetState(WindowState state)
+void mdiQuillmark::MustBeLoaded()
 {
   Load();
   if (ended_) {
     RaiseError(ErrorNumber::kObjectUnloaded);
   }
+}
+
+void mdiQuillmark::SetState(WindowState state)
+{
+  MustBeLoaded();
   switch (state) {
     case WindowState::kMinimised:
       showMinimized();
@@ -258,6 +196,7 @@ bool mdiQuillmark::TimerEnabled() const
 void mdiQuillmark::SetTimerEnabled(bool enabled)
 {
   if (enabled) {
+    MustBeLoaded();
     tmrTimer_.start();
   } else {
     tmrTimer_.stop();
@@ -277,8 +216,10 @@ void mdiQuillmark::resizeEvent(QResizeEvent* event)
 void mdiQuillmark::changeEvent(QEvent* event)
 {
   QMainWindow::changeEvent(event);
-  QWidget* page = ui_->pages->currentWidget();
-  if (event->type() == QEvent::WindowStateChange && page != nullptr && State() != WindowState::kMinimised) {
+  if (event->type() != QEvent::WindowStateChange || State() == WindowState::kMinimised) {
+    return;
+  }
+  if (QWidget* page = ui_->pages->currentWidget()) {
     QResizeEvent resized(page->size(), page->size());
     QCoreApplication::sendEvent(page, &resized);
   }
@@ -303,7 +244,9 @@ bool mdiQuillmark::Unload()
   }
   hide();
   store_.reset();
-  QCoreApplication::quit();
+  if (QThread::currentThread()->loopLevel() > 0) {
+    QCoreApplication::exit(EXIT_SUCCESS);  // not quit, which would ask every window once more
+  }
   return true;
 }
 
@@ -312,52 +255,20 @@ bool mdiQuillmark::QueryUnload()
   if (PageSwitch::RefuseWhileEditing()) {
     return false;
   }
-  SetTimerEnabled(false);
+  Database database = DBEngine::OpenDatabase();
+  const auto options = Options::Open(database);
+  tmrTimer_.stop();
   MediaDevice::Close();
-  WriteState();
+  WriteState(*options);
   return true;
 }
 
-void mdiQuillmark::WriteState() const
+void mdiQuillmark::WriteState(Recordset& options) const
 {
   if (State() == WindowState::kMinimised) {
     return;
   }
-  Options::Write(QStringLiteral("WindowState"), State() == WindowState::kMaximised);
-}
-
-void mdiQuillmark::mnuLists_Click(int index)
-{
-  static constexpr std::array kPages = {"frmQuillmark", "frmSpecial", "frmReminders"};
-  const QString page = QLatin1String(kPages[static_cast<std::size_t>(index)]);
-  if (!PageSwitch::OpenPage(page)) {
-    return;
-  }
-  if (index == 2) {
-    modThemes::SetCalendarHasPicture(true);
-    Forms::Load(QStringLiteral("frmPrintCal")).ShowModal();
-  } else if (QWidget* panel = Forms::Load(page).Control(QStringLiteral("fraPrint"))) {
-    panel->show();
-  }
-}
-
-void mdiQuillmark::mnuAnn_Click()
-{
-  if (PageSwitch::OpenPage(QStringLiteral("frmAnn"))) {
-    modID::SelectedPersonID = 0;
-  }
-}
-
-void mdiQuillmark::mnuToolTips_Click(int index)
-{
-  mnuToolTips_[0]->setChecked(index == 0);
-  mnuToolTips_[1]->setChecked(index == 1);
-  modToolTips::Choose(index == 0);
-}
-
-void mdiQuillmark::mnuTheme_Click(int index)
-{
-  modThemes::Choose(index);
-  MarkTheme(index);
-  modThemes::ApplyTheme();
+  options.Edit();
+  options.Fields(QStringLiteral("WindowState")).SetValue(State() == WindowState::kMaximised);
+  options.Update();
 }

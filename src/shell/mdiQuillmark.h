@@ -4,18 +4,16 @@
 #pragma once
 
 #include "controls/Frame.h"
+#include "shell/FrameMenu.h"
 
 #include <QMainWindow>
 #include <QTimer>
 
-#include <array>
 #include <memory>
 
 namespace Ui {
 class mdiQuillmark;
 }
-class Database;
-class QAction;
 class Recordset;
 
 // The main frame: the window with the menu, inside which one page is shown at a time.
@@ -50,34 +48,22 @@ protected:
   void closeEvent(QCloseEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
 
-private Q_SLOTS:
-  void mnuLists_Click(int index);
-  void mnuToolTips_Click(int index);
-  void mnuTheme_Click(int index);
-  void mnuAnn_Click();
-
 private:
   struct Store;
 
-  void CollectMenu();
-  void ConnectControls();
-  void ConnectForm(QAction* action, const char* form, bool isPage);
-  void EnableMenu();
   bool PassGuards();
   void WarnOfResolution() const;
   void RestoreState();
   void Centre();
-  void MarkTheme(int theme);
-  void MarkTips();
   bool QueryUnload();
-  void WriteState() const;
+  void MustBeLoaded();
+  void WriteState(Recordset& options) const;
 
   std::unique_ptr<Ui::mdiQuillmark> ui_;
   std::unique_ptr<Store> store_;
-  std::array<QAction*, 3> mnuLists_{};
-  std::array<QAction*, 2> mnuToolTips_{};
-  std::array<QAction*, 6> mnuTheme_{};
+  FrameMenu menu_;
   QTimer tmrTimer_;
+  bool guarded_ = false;  // the guards have spoken, also if the load failed behind them
   bool loaded_ = false;
   bool ended_ = false;
 };

@@ -128,6 +128,9 @@ void Connection::Execute(const char* sql)
 
 void Connection::BeginWrite()
 {
+  if (lost_ && Command::IsRunning()) {
+    StoreError::Raise(StoreError::kDiskFull);
+  }
   if (Command::IsRunning() && sqlite3_get_autocommit(handle_) != 0) {
     Execute("BEGIN IMMEDIATE");
     Command::Enlist(*this);
@@ -139,12 +142,14 @@ void Connection::BeginWrite()
 void Connection::WriteFailed()
 {
   if (sqlite3_get_autocommit(handle_) != 0) {
+    lost_ = keptForCommand_ != nullptr;
     ++epoch_;
   }
 }
 
 void Connection::Settle()
 {
+  lost_ = false;
   const std::shared_ptr<Connection> kept = std::exchange(keptForCommand_, nullptr);
   if (sqlite3_get_autocommit(handle_) != 0) {
     return;
@@ -158,6 +163,7 @@ void Connection::Settle()
 
 void Connection::Abandon() noexcept
 {
+  lost_ = false;
   const std::shared_ptr<Connection> kept = std::exchange(keptForCommand_, nullptr);
   RollBack();
 }
@@ -170,13 +176,23 @@ void Connection::RollBack() noexcept
   }
 }
 
-long long Connection::ChangeStamp()
+const long long& Connection::ChangesOf(const QString& table)
+{
+  return changes_[table.toCaseFolded()];
+}
+
+void Connection::CountChange(const QString& table)
+{
+  ++changes_[table.toCaseFolded()];
+}
+
+long long Connection::ChangeStamp(const long long& changes)
 {
   if (!Command::IsRunning() || commandSeen_ != Command::Serial()) {
     LookForOutsideChanges();
     commandSeen_ = Command::Serial();
   }
-  return sqlite3_total_changes64(handle_) + (epoch_ << 40);
+  return changes + (epoch_ << 40);
 }
 
 void Connection::LookForOutsideChanges()

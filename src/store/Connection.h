@@ -39,12 +39,17 @@ public:
   // Opens the transaction of the running command, if there is one, before a write.
   void BeginWrite();
 
-  // To be called after a write that failed.
+  // To be called after a write that failed. If all of the command's writes are lost with
+  // it, the command can write no more.
   void WriteFailed();
 
-  // Any change to the file's contents, by whomever, gives another number.
+  // The count of changes that cursors have made to a table, kept up from here on.
+  [[nodiscard]] const long long& ChangesOf(const QString& table);
+  void CountChange(const QString& table);
+
+  // Another number after each change to the table that `changes` counts, by whomever.
   // Changes by other programs are seen from the next command on.
-  long long ChangeStamp();
+  long long ChangeStamp(const long long& changes);
 
   [[nodiscard]] const TableSchema& Table(const QString& name);
 
@@ -63,5 +68,7 @@ private:
   std::shared_ptr<Connection> keptForCommand_;  // while a transaction is open
   long commandSeen_ = -1;
   int outsideVersion_ = 0;
+  bool lost_ = false;  // the running command's writes, by a failure
+  std::map<QString, long long> changes_;
   long long epoch_ = 0;
 };

@@ -13,9 +13,24 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <unistd.h>
+
 Database Workspace::OpenDatabase(const QString& path)
 {
   return Database(path);
+}
+
+namespace {
+
+// On the disk, so that the source may be deleted.
+void MakeLasting(const QString& path)
+{
+  QFile file(path);
+  if (!file.open(QIODevice::ReadWrite) || fsync(file.handle()) != 0) {
+    StoreError::Raise(StoreError::kDiskError);
+  }
+}
+
 }
 
 namespace DBEngine {
@@ -41,6 +56,7 @@ void CompactDatabase(const QString& source, const QString& target)
   const std::shared_ptr<Connection> connection = Connection::To(source);
   try {
     Statement(*connection, QStringLiteral("VACUUM INTO ?")).Bind(1, target).Step();
+    MakeLasting(target);
   } catch (const RuntimeError&) {
     QFile::remove(target);
     throw;

@@ -95,7 +95,7 @@ QString Parser::TakeName()
 
 QString Parser::ParseColumn()
 {
-  const QString first = TakeName();
+  QString first = TakeName();
   if (!TakeSymbol('.')) {
     return first;
   }
@@ -109,7 +109,7 @@ QString Parser::ParseColumn()
 QString Parser::ParseColumnInBrackets()
 {
   ExpectSymbol('(');
-  const QString column = ParseColumn();
+  QString column = ParseColumn();
   ExpectSymbol(')');
   return column;
 }

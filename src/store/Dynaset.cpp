@@ -64,20 +64,20 @@ void Dynaset::ReadOrder(const Dialect::Select& select)
 {
   const QString key = QuoteName(Table().key);
   QStringList columns{key};
-  std::vector<ColumnType> types;
+  std::vector<OrderingColumn> ordering;
   for (const Dialect::Expression& expression : select.order) {
     columns.append(Dialect::Translate(expression, Table()));
-    types.push_back(TypeOf(expression, Table()));
+    ordering.push_back({TypeOf(expression, Table()), IsPlainColumn(expression)});
   }
   const QString condition =
       select.notNull
           ? QStringLiteral(" WHERE %1 IS NOT NULL").arg(Dialect::Translate({{*select.notNull, false}}, Table()))
           : QString();
-  openedAt_ = Store().ChangeStamp();
+  openedAt_ = ChangeStamp();
   OrderedKeys ordered = ReadInOrder(Store(),
                                     QStringLiteral("SELECT %1 FROM %2%3 ORDER BY %4")
                                         .arg(columns.join(QLatin1Char(',')), QuoteName(Table().name), condition, key),
-                                    types);
+                                    ordering);
   KeepValuesOf(select, ordered);
   Begin(std::move(ordered.keys));
 }
@@ -99,10 +99,9 @@ void Dynaset::KeepValuesOf(const Dialect::Select& select, OrderedKeys& ordered)
 
 bool Dynaset::NothingChanged()
 {
-  if (Store().ChangeStamp() == openedAt_) {
+  if (ChangeStamp() == openedAt_) {
     return true;
   }
-  kept_.clear();
   openedAt_ = -1;
   return false;
 }

@@ -16,7 +16,8 @@ public:
   // Null is a null QVariant. Throws 3021 without a current row, 3167 if it was deleted.
   [[nodiscard]] QVariant Value() const;
 
-  // The same without a copy, for long walks: good until the cursor moves or is written.
+  // The same without a copy, for long walks: good until this cursor
+  // moves or any cursor writes.
   [[nodiscard]] const QVariant& Peek() const;
 
   // Takes effect with Update. Throws 3020 outside Edit and AddNew, 3027 for a computed column.

@@ -53,6 +53,8 @@ void ListCursor::Erase(qsizetype position)
   if (position < visited_) {
     --visited_;
   }
+  // While there are rows, their count is never told as none.
+  visited_ = std::max(visited_, std::min<qsizetype>(1, Size()));
 }
 
 void ListCursor::LandForward()
@@ -147,6 +149,9 @@ qint64 ListCursor::CurrentKey()
 void ListCursor::RowAdded(qint64 key)
 {
   const bool pastTheEnd = !deletedHere_ && position_ >= Size();
+  if (!keys_.empty() && keys_.back() == key) {
+    keys_.pop_back();  // an addition that was taken back had this key before
+  }
   keys_.push_back(key);
   if (pastTheEnd) {
     position_ = Size();

@@ -169,29 +169,35 @@ std::vector<T> Arranged(const std::vector<T>& items, const std::vector<std::uint
 
 }
 
-OrderedKeys ReadInOrder(Connection& connection, const QString& sql, const std::vector<ColumnType>& types)
+OrderedKeys ReadInOrder(Connection& connection, const QString& sql, const std::vector<OrderingColumn>& columns)
 {
   std::vector<qint64> keys;
-  std::vector<Values> values(types.begin(), types.end());
-  std::vector<std::vector<std::uint32_t>> which(types.size());
+  std::vector<Values> values;
+  for (const OrderingColumn& column : columns) {
+    values.emplace_back(column.type);
+  }
+  std::vector<std::vector<std::uint32_t>> which(columns.size());
   Statement statement(connection, sql);
   while (statement.Step()) {
     keys.push_back(statement.Integer(0));
-    for (std::size_t column = 0; column < types.size(); ++column) {
+    for (std::size_t column = 0; column < columns.size(); ++column) {
       which[column].push_back(values[column].NumberOf(statement, static_cast<int>(column) + 1));
     }
   }
 
   std::vector<std::uint32_t> rows(keys.size());
   std::iota(rows.begin(), rows.end(), 0U);
-  for (std::size_t column = types.size(); column-- > 0;) {
+  for (std::size_t column = columns.size(); column-- > 0;) {
     SortBy(Arranged(values[column].Ranks(), which[column]), values[column].Size(), rows);
   }
 
   OrderedKeys ordered;
   ordered.keys = Arranged(keys, rows);
-  for (std::size_t column = 0; column < types.size(); ++column) {
-    ordered.kept.push_back({Arranged(which[column], rows), values[column].Travelling()});
+  for (std::size_t column = 0; column < columns.size(); ++column) {
+    ordered.kept.emplace_back();
+    if (columns[column].kept) {
+      ordered.kept.back() = {Arranged(which[column], rows), values[column].Travelling()};
+    }
   }
   return ordered;
 }

@@ -27,7 +27,15 @@ struct OrderedKeys
   std::vector<Kept> kept;  // one an ordering column
 };
 
-// Runs `sql`, which gives a key and then one column for each of `types`, in the order
+// Runs `sql`, which gives a key and then one for each of `columns`, in the order
 // of keys, and puts the rows into the order of these columns: Null first, then numbers,
 // then texts by TextOrder, equal ones by key.
-[[nodiscard]] OrderedKeys ReadInOrder(Connection& connection, const QString& sql, const std::vector<ColumnType>& types);
+// Values are kept of those columns that are `kept`.
+struct OrderingColumn
+{
+  ColumnType type = ColumnType::kText;
+  bool kept = false;
+};
+
+[[nodiscard]] OrderedKeys ReadInOrder(Connection& connection, const QString& sql,
+                                      const std::vector<OrderingColumn>& columns);

@@ -25,7 +25,10 @@ void Field::SetValue(const QVariant& value)
 }
 
 Recordset::Recordset(std::shared_ptr<Connection> connection, const TableSchema& table, std::vector<Column> columns)
-    : connection_(std::move(connection)), table_(table), columns_(std::move(columns))
+    : connection_(std::move(connection)),
+      table_(table),
+      changes_(connection_->ChangesOf(table.name)),
+      columns_(std::move(columns))
 {
   fields_.reserve(columns_.size());
   for (std::size_t column = 0; column < columns_.size(); ++column) {
@@ -34,6 +37,11 @@ Recordset::Recordset(std::shared_ptr<Connection> connection, const TableSchema& 
 }
 
 Recordset::~Recordset() = default;
+
+long long Recordset::ChangeStamp() const
+{
+  return connection_->ChangeStamp(changes_);
+}
 
 int Recordset::AbsolutePosition() const
 {
@@ -150,6 +158,7 @@ void Recordset::Delete()
   ForgetEdit();
   const QString sql = QStringLiteral("DELETE FROM %1 WHERE %2=?").arg(QuoteName(table_.name), QuoteName(table_.key));
   Write(sql, {CurrentKey()});
+  MustHaveChanged();
   RowDeleted();
 }
 
@@ -168,6 +177,12 @@ void Recordset::WriteEdit()
   Write(QStringLiteral("UPDATE %1 SET %2 WHERE %3=?")
             .arg(QuoteName(table_.name), assignments.join(QLatin1Char(',')), QuoteName(table_.key)),
         values);
+  MustHaveChanged();
+}
+
+// A row that somebody else has deleted is not found by its key.
+void Recordset::MustHaveChanged() const
+{
   if (sqlite3_changes(connection_->Handle()) == 0) {
     StoreError::Raise(StoreError::kRecordDeleted);
   }
@@ -201,6 +216,7 @@ void Recordset::Write(const QString& sql, const std::vector<QVariant>& values)
       statement.Bind(++parameter, value);
     }
     statement.Step();
+    connection_->CountChange(table_.name);
   } catch (const RuntimeError&) {
     connection_->WriteFailed();
     throw;

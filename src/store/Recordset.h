@@ -75,6 +75,8 @@ protected:
 
   [[nodiscard]] Connection& Store() const { return *connection_; }
   [[nodiscard]] const TableSchema& Table() const { return table_; }
+  // Another number after each change to the table.
+  [[nodiscard]] long long ChangeStamp() const;
   [[nodiscard]] const std::vector<Column>& Columns() const { return columns_; }
   void SetNoMatch(bool noMatch) { noMatch_ = noMatch; }
   void ForgetEdit();
@@ -101,12 +103,14 @@ private:
   [[nodiscard]] const QVariant& Value(int column);
   void SetValue(int column, const QVariant& value);
   void MustBeUpdatable() const;
+  void MustHaveChanged() const;
   void WriteEdit();
   qint64 WriteNew();
   void Write(const QString& sql, const std::vector<QVariant>& values);
 
   std::shared_ptr<Connection> connection_;
   TableSchema table_;
+  const long long& changes_;
   std::vector<Column> columns_;
   std::vector<Field> fields_;
   Mode mode_ = Mode::kReading;

@@ -9,6 +9,7 @@
 #include <sqlite3.h>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -44,6 +45,7 @@ private:
 RowReader::RowReader(Connection& connection, const TableSchema& table, std::vector<QString> expressions,
                      std::vector<ColumnType> types)
     : connection_(connection),
+      changes_(connection.ChangesOf(table.name)),
       table_(QuoteName(table.name)),
       key_(QuoteName(table.key)),
       expressions_(std::move(expressions)),
@@ -73,9 +75,9 @@ void RowReader::Want(int column)
 
 const RowReader::Row& RowReader::Find(std::span<const qint64> keys)
 {
-  const long long stamp = connection_.ChangeStamp();
+  const long long stamp = connection_.ChangeStamp(changes_);
   if (stamp != stamp_) {
-    block_.clear();
+    retired_ = std::exchange(block_, {});
     stamp_ = stamp;
   }
   if (const Row* row = FindInBlock(keys.front())) {

@@ -42,12 +42,14 @@ private:
   void Want(int column);
 
   Connection& connection_;
+  const long long& changes_;
   QString table_;
   QString key_;
   std::vector<QString> expressions_;
   std::vector<ColumnType> types_;
   std::vector<int> wanted_;
   std::vector<Row> block_;
+  std::vector<Row> retired_;  // read before the last change; values may still be looked at
   std::size_t lastFound_ = 0;
   qint64 expectedNext_ = 0;
   std::size_t nextBlockSize_ = 1;

@@ -3,6 +3,7 @@
 
 #include "store/Statement.h"
 
+#include "platform/Utf8.h"
 #include "store/Connection.h"
 #include "store/StoreError.h"
 
@@ -17,6 +18,16 @@ void BindText(sqlite3_stmt* statement, int parameter, const QString& text)
 {
   const QByteArray utf8 = text.toUtf8();
   sqlite3_bind_text(statement, parameter, utf8.constData(), static_cast<int>(utf8.size()), SQLITE_TRANSIENT);
+}
+
+// A date or a time that is none has no text.
+void BindTextOrNull(sqlite3_stmt* statement, int parameter, const QString& text)
+{
+  if (text.isEmpty()) {
+    sqlite3_bind_null(statement, parameter);
+  } else {
+    BindText(statement, parameter, text);
+  }
 }
 
 }
@@ -50,10 +61,10 @@ Statement& Statement::Bind(int parameter, const QVariant& value)
       sqlite3_bind_double(statement_, parameter, value.toDouble());
       break;
     case QMetaType::QDate:
-      BindText(statement_, parameter, value.toDate().toString(Qt::ISODate));
+      BindTextOrNull(statement_, parameter, value.toDate().toString(Qt::ISODate));
       break;
     case QMetaType::QTime:
-      BindText(statement_, parameter, value.toTime().toString(Qt::ISODate));
+      BindTextOrNull(statement_, parameter, value.toTime().toString(Qt::ISODate));
       break;
     default:
       BindText(statement_, parameter, value.toString());
@@ -116,13 +127,9 @@ std::string_view Statement::Bytes(int column) const
   return {text == nullptr ? "" : text, static_cast<std::size_t>(sqlite3_column_bytes(statement_, column))};
 }
 
-// The toolkit takes a byte order mark at the start of a text for no part of it.
 QString Statement::Text(int column) const
 {
-  constexpr std::string_view kMark = "\xEF\xBB\xBF";
-  const std::string_view bytes = Bytes(column);
-  const QString text = QString::fromUtf8(bytes.data(), static_cast<qsizetype>(bytes.size()));
-  return bytes.starts_with(kMark) ? QChar(QChar::ByteOrderMark) + text : text;
+  return FromUtf8(Bytes(column));
 }
 
 QVariant Statement::Value(int column, ColumnType type) const

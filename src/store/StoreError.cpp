@@ -45,6 +45,8 @@ QString FurtherTextFor(int number)
       return QStringLiteral("The bookmark leads to no record.");
     case kRecordDeleted:
       return QStringLiteral("The record has been deleted.");
+    case kNullNotAllowed:
+      return QStringLiteral("The column may not be left without a value.");
     case kAlreadyExists:
       return QStringLiteral("The file %1 exists already.");
     case kLocked:
@@ -66,6 +68,9 @@ QString FurtherTextFor(int number)
 
 int NumberFor(int code)
 {
+  if (code == SQLITE_CONSTRAINT_NOTNULL) {
+    return kNullNotAllowed;
+  }
   switch (code & 0xff) {
     case SQLITE_BUSY:
     case SQLITE_LOCKED:

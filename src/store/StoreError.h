@@ -26,6 +26,7 @@ inline constexpr int kRecordDeleted = 3167;
 inline constexpr int kAlreadyExists = 3204;
 inline constexpr int kLocked = 3260;
 inline constexpr int kUnknownItem = 3265;
+inline constexpr int kNullNotAllowed = 3314;
 inline constexpr int kNotADatabase = 3343;
 inline constexpr int kInUse = 3356;
 inline constexpr int kClosed = 3420;

@@ -141,7 +141,7 @@ void TableCursor::StandOn(const Place& place)
   windowKeys_ = {place.key};
   inWindow_ = 0;
   nextWindowSize_ = 1;
-  windowStamp_ = Store().ChangeStamp();
+  windowStamp_ = ChangeStamp();
 }
 
 void TableCursor::StandOnEdge(Edge edge)
@@ -198,7 +198,7 @@ void TableCursor::MovePrevious()
 
 bool TableCursor::StepWithinWindow(Direction direction)
 {
-  if (direction != Direction::kForward || windowStamp_ != Store().ChangeStamp() || inWindow_ + 1 >= window_.size()) {
+  if (direction != Direction::kForward || windowStamp_ != ChangeStamp() || inWindow_ + 1 >= window_.size()) {
     return false;
   }
   current_ = window_[++inWindow_];
@@ -210,7 +210,8 @@ void TableCursor::Step(Direction direction, Edge edge)
   if (StepWithinWindow(direction)) {
     return;
   }
-  const int size = direction == Direction::kForward ? nextWindowSize_ : 1;
+  const bool goesOn = direction == Direction::kForward && windowStamp_ == ChangeStamp();
+  const int size = goesOn ? nextWindowSize_ : 1;
   std::vector<Place> places = ReadPlaces(direction, current_, size);
   if (places.empty()) {
     StandOnEdge(RecordCount() == 0 ? Edge::kEmpty : edge);

@@ -97,6 +97,13 @@ TEST(TextOrder, ZerosWithinATextCount)
   EXPECT_LT(TextOrder::Compare(text, "ab"), 0);
 }
 
+TEST(TextOrder, AMarkAtTheStartOfATextCounts)
+{
+  const QString text = QChar(0xFEFF) + QString("a");
+  EXPECT_GT(TextOrder::Compare(text.toStdString(), "a"), 0);
+  EXPECT_EQ(TextOrder::Key(text), TextOrder::Key(text.toStdString()));
+}
+
 TEST(TextOrder, IsTheSameFromEitherSide)
 {
   std::mt19937 random(2);

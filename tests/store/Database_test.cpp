@@ -271,6 +271,7 @@ TEST(Database, WhatALockKeptFromBeingReadCanBeReadAfterIt)
   Database database(folder.DatabasePath());
   const auto table = database.OpenRecordset("People", Database::kTable);
   const auto query = database.OpenRecordset(Queries::kRecords, Database::kDynaset);
+  EXPECT_EQ(query->Fields("PeopleID").Value(), 1);
   {
     const ExclusiveLock lock(folder.DatabasePath());
     ASSERT_TRUE(lock.IsTaken());
