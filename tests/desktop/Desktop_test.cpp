@@ -146,7 +146,7 @@ TEST(Desktop, ASecondCopyEndsAndTheFirstLivesOn)
   desktop.Press(*box, "Return");
   EndsWith(*second, 0);
   EXPECT_EQ(first->state(), QProcess::Running);
-  EXPECT_TRUE(desktop.HasVisibleWindow(*first, kFrame));
+  EXPECT_TRUE(desktop.AwaitWindow(*first, kFrame));
   End(*first);
 }
 

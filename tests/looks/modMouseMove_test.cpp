@@ -525,3 +525,13 @@ TEST_F(MouseMoveTest, ListThatIsLitIsSeenToBe)
   modMouseMove::Reset(*form_, Row::kReminders);
   EXPECT_EQ(ground(), QColor(Qt::white));
 }
+
+TEST_F(MouseMoveTest, ADisabledLabelStaysDark)
+{
+  Show("frmIntro");
+  At("lblOptions_1").setEnabled(false);
+  MoveOver("lblOptions_0");
+  EXPECT_EQ(Lit(), "lblOptions_0");
+  MoveOver("lblOptions_1");
+  EXPECT_EQ(Lit(), "");
+}

@@ -66,9 +66,11 @@ TEST_F(CheckRemindersTest, WithTipsOffTheWindowHasNone)
   AddPerson("Ann", "Lee", "May", "7");
   Set("ToolTips=1");
   CheckReminders(false);
-  for (const char* name : {"lblOptions_0", "lblOptions_1", "lblOptions_2", "lstNotices"}) {
-    EXPECT_EQ(Drive::Control(*Window(), name).toolTip(), QString()) << name;
+  for (const QWidget* control : Window()->Controls()) {
+    EXPECT_EQ(control->toolTip(), QString()) << control->objectName().toStdString();
   }
+  EXPECT_TRUE(
+      CheckAndSee([&](QWidget& form) { EXPECT_EQ(Drive::Control(form, "lblOptions_0").toolTip(), QString()); }));
   Set("ToolTips=0");
 }
 
@@ -305,4 +307,77 @@ TEST_F(CheckRemindersTest, ACheckOverStandingStartUpNoticesBecomesModal)
   frame.state = WindowState::kNormal;
   EXPECT_TRUE(CheckAndSee([&](QWidget& form) { EXPECT_EQ(Lines(form, "lstNotices"), QStringList{birthdayLine}); }));
   EXPECT_EQ(Window(), nullptr);
+}
+
+TEST_F(CheckRemindersTest, EachKindReadsItsOwnColumns)
+{
+  AddCouple("Mia", "Tom", "May", "10");
+  Set("AnnLength=2");
+  EXPECT_EQ(LinesAtStart(), QStringList());
+  Set("AnnLength=5, BirthAudio=0, CalAudio=0");
+  EXPECT_EQ(LinesAtStart(), QStringList{anniversaryLine});
+  Set("AnnAudio=0, BirthAudio=1");
+  EXPECT_EQ((CheckReminders(false), modTextNotices::AnniversaryHit), false);
+}
+
+TEST_F(CheckRemindersTest, AnniversariesAreDecidedOnThePeople)
+{
+  folder.Execute("INSERT INTO Ann (Spouse1First, Spouse2First, AnnMonth, AnnDate) VALUES ('Mia','Tom','May','5')");
+  EXPECT_EQ(LinesAtStart(), QStringList());
+}
+
+TEST_F(CheckRemindersTest, AMissingTableEndsTheCheckBeforeAnythingIsSaid)
+{
+  AddPerson("Ann", "Lee", "May", "5");
+  folder.Execute("DROP TABLE Reminders");
+  CheckReminders(true);
+  EXPECT_EQ(Window(), nullptr);
+  EXPECT_FALSE(modTextNotices::BirthdayHit);
+  Set("BirthAudio=0, AnnAudio=0, CalAudio=0");
+  CheckReminders(true);
+  EXPECT_EQ(Window(), nullptr);
+}
+
+TEST_F(CheckRemindersTest, WithSoundOffNoClipStarts)
+{
+  AddPerson("Ann", "Lee", "May", "5");
+  Set("AudioMessage=0");
+  CheckReminders(false);
+  EXPECT_NE(Window(), nullptr);
+  EXPECT_TRUE(CheckAndSee([](QWidget&) {}));
+  EXPECT_FALSE(frame.timer);
+  EXPECT_EQ(modTextNotices::ClipIndex, 0);
+}
+
+TEST_F(CheckRemindersTest, TheCheckItselfDoesNotGoBackToTheFirstClip)
+{
+  AddPerson("Ann", "Lee", "May", "5");
+  AddEvent("Dentist", "May", "2026-05-06");
+  Set("TextMessage=0");
+  modTextNotices::ClipIndex = 1;
+  CheckReminders(true);
+  EXPECT_EQ(modTextNotices::ClipIndex, 2);
+}
+
+TEST_F(CheckRemindersTest, MessagesAreManualChecksAndLeaveTheFrameAlone)
+{
+  const QPoint centred(QGuiApplication::primaryScreen()->geometry().width() / 2 - 125,
+                       QGuiApplication::primaryScreen()->geometry().height() / 4);
+  frame.state = WindowState::kMaximised;
+  const auto see = [&](QWidget& form) {
+    EXPECT_TRUE(modTextNotices::ManualCheck);
+    EXPECT_EQ(Caption(form, "lblOptions_0"), QStringLiteral("Close window"));
+  };
+  EXPECT_TRUE(CheckAndSee([&](QWidget& form) {
+    see(form);
+    EXPECT_EQ(form.pos(), centred);
+  }));
+  EXPECT_EQ(frame.state, WindowState::kMaximised);
+  Set("BirthAudio=0, AnnAudio=0, CalAudio=0");
+  EXPECT_TRUE(CheckAndSee([&](QWidget& form) {
+    see(form);
+    EXPECT_NE(form.pos(), centred) << "it is not centred";
+  }));
+  EXPECT_EQ(frame.state, WindowState::kMaximised);
+  EXPECT_FALSE(modTextNotices::ManualCheck);
 }

@@ -129,6 +129,62 @@ TEST_F(NoticesTest, AFailureInAClickIsSilent)
   folder.Execute("UPDATE People SET BirthDate='sixth'");
   ClickLine(window, "lstNotices", 0);
   EXPECT_EQ(Details(window), QStringList());
+  EXPECT_EQ(window.ScaleWidth(), 3750) << "all queries come before anything is done";
+}
+
+TEST_F(NoticesTest, ADamagedRowBehindOneThatFitsLeavesTheSentenceAndNoEntries)
+{
+  AddPerson("Ann", "Lee", "May", "6");
+  frmTextNotice& window = Open();
+  AddPerson("Ben", "Lee", "May", "sixth");
+  ClickLine(window, "lstNotices", 0);
+  EXPECT_EQ(window.ScaleWidth(), 7740);
+  EXPECT_EQ(Details(window), QStringList());
+  EXPECT_EQ(Sentence(window),
+            QStringLiteral("You've chosen to be notified of all birthdays occurring within the next 7 days:"));
+}
+
+TEST_F(NoticesTest, RowsWithUnknownPartsStandBesideHitsInSilence)
+{
+  AddPerson("Ann", "Lee", "February", "29");
+  AddPerson("Ben", "Lee", "February", {});
+  AddPerson("Cid", "Lee", "", "1");
+  Clock::StopOn(QDate(2026, 2, 26));
+  frmTextNotice& window = Open();
+  ClickLine(window, "lstNotices", 0);
+  EXPECT_EQ(Details(window), QStringList{"In  3 days - Ann Lee"});
+}
+
+TEST_F(NoticesTest, InDecemberAJanuaryBirthdayIsTold)
+{
+  AddPerson("Ann", "Lee", "January", "1");
+  Clock::StopOn(QDate(2026, 12, 31));
+  frmTextNotice& window = Open();
+  ClickLine(window, "lstNotices", 0);
+  EXPECT_EQ(Details(window), QStringList{"In  1 day - Ann Lee"});
+}
+
+TEST_F(NoticesTest, AnAnniversaryTodayUnderTheOneDayRule)
+{
+  AddCouple("Mia", "Tom", "May", "5");
+  Set("AnnOnce=1, AnnMany=0, AnnLength=0");
+  frmTextNotice& window = Open();
+  ClickLine(window, "lstNotices", 0);
+  EXPECT_EQ(Details(window), QStringList{"Mia and Tom"});
+  EXPECT_EQ(Sentence(window), QStringLiteral("You've chosen to be notified of anniversaries ccuring today:"));
+}
+
+TEST_F(NoticesTest, ControlsStandAtTheirPlaces)
+{
+  AddPerson("Ann", "Lee", "May", "6");
+  frmTextNotice& window = Open();
+  const auto twips = [&](const char* name) {
+    const QRect place = Drive::Control(window, name).geometry();
+    return QRect(place.x() * 15, place.y() * 15, place.width() * 15, place.height() * 15);
+  };
+  EXPECT_EQ(twips("lstNotices"), QRect(360, 1080, 3255, 780));
+  EXPECT_EQ(twips("lblExplain"), QRect(3840, 600, 3495, 495));
+  EXPECT_EQ(twips("lstMoreInfo"), QRect(3840, 1080, 3615, 1230));
 }
 
 TEST_F(NoticesTest, ALineIsReachedByKeyboard)

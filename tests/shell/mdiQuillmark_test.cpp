@@ -3,6 +3,7 @@
 
 #include "ShellTest.h"
 
+#include "looks/modThemes.h"
 #include "platform/RuntimeError.h"
 #include "store/DBEngine.h"
 
@@ -220,6 +221,8 @@ TEST_F(ShellTest, TheMenuIsCompleteWithItsCaptions)
     EXPECT_EQ(Captions(*frame->findChild<QMenu*>(name)), captions) << name;
     EXPECT_NE(frame->findChild<QAction*>(name), nullptr) << name;
   }
+  EXPECT_TRUE(Menu("mnuSep1").isSeparator());
+  EXPECT_TRUE(Menu("mnuSep3").isSeparator());
   EXPECT_EQ(Menu("mnuContents").shortcut(), QKeySequence(Qt::Key_F1));
 }
 
@@ -434,4 +437,134 @@ TEST_F(ShellTest, TheClosedFrameLetsGoOfTheDatabase)
   Start();
   frame->close();
   EXPECT_NO_THROW(DBEngine::CompactDatabase(folder.DatabasePath(), folder.File("/copy.mdb")));
+}
+
+TEST_F(ShellTest, AStopByAGuardWritesTheStateAsAnyClose)
+{
+  Set("WindowState=1");
+  const OtherCopy other(folder.Path());
+  boxes.Expect(kSecondCopy);
+  Start();
+  EXPECT_EQ(Option("WindowState"), 0) << "the frame was in its normal state";
+}
+
+TEST_F(ShellTest, AWrongYearIsSaidBeforeASecondCopy)
+{
+  const OtherCopy other(folder.Path());
+  Clock::StopOn(QDate(2051, 1, 1));
+  boxes.Expect(kWrongDate);
+  Start();
+  EXPECT_TRUE(frame->HasEnded());
+}
+
+TEST_F(ShellTest, BeforeTheFirstYearNoRemindersAreLookedFor)
+{
+  folder.Execute("INSERT INTO People (FirstName, BirthMonth, BirthDate) VALUES ('Ann', 'December', '31')");
+  Clock::StopOn(QDate(1899, 12, 31));
+  boxes.Expect(kWrongDate);
+  modTextNotices::BirthdayHit = false;
+  Start();
+  EXPECT_FALSE(modTextNotices::BirthdayHit);
+}
+
+TEST_F(ShellTest, AWindowStateThatIsUnknownRestoresNothing)
+{
+  Set("WindowState=NULL");
+  Start();
+  EXPECT_EQ(frame->State(), WindowState::kNormal);
+  EXPECT_TRUE(frame->isVisible());
+}
+
+TEST_F(ShellTest, ASecondCopyPlaysNoClip)
+{
+  folder.Execute("INSERT INTO People (FirstName, BirthMonth, BirthDate) VALUES ('Ann', 'May', '5')");
+  Set("TextMessage=0");
+  const OtherCopy other(folder.Path());
+  boxes.Expect(kSecondCopy);
+  modTextNotices::ClipIndex = 0;
+  Start();
+  EXPECT_TRUE(frame->HasEnded());
+  EXPECT_EQ(modTextNotices::ClipIndex, 0) << "the guard speaks before the first clip";
+  EXPECT_FALSE(frame->TimerEnabled());
+}
+
+TEST_F(ShellTest, ClipsAloneLeaveTheFrameAsItIs)
+{
+  folder.Execute("INSERT INTO People (FirstName, BirthMonth, BirthDate) VALUES ('Ann', 'May', '5')");
+  Set("TextMessage=0, WindowState=1");
+  modTextNotices::ClipIndex = 0;
+  Start();
+  EXPECT_EQ(frame->State(), WindowState::kMaximised);
+  EXPECT_TRUE(frame->TimerEnabled());
+  frame->close();
+  EXPECT_FALSE(frame->TimerEnabled());
+  EXPECT_EQ(MediaDevice::Mode(), QString());
+}
+
+TEST_F(ShellTest, TheTimerOfTheClipsTicksEverySecondAndIsOffAtFirst)
+{
+  Start();
+  EXPECT_EQ(frame->findChild<QTimer*>("tmrTimer", Qt::FindDirectChildrenOnly)->interval(), 1000);
+  EXPECT_FALSE(frame->TimerEnabled());
+}
+
+TEST_F(ShellTest, AStandingNoticeGoesWithTheFrame)
+{
+  folder.Execute("INSERT INTO People (FirstName, BirthMonth, BirthDate) VALUES ('Ann', 'May', '5')");
+  Start();
+  ASSERT_NE(Forms::Loaded("frmTextNotice"), nullptr);
+  frame->SetState(WindowState::kNormal);
+  frame->close();
+  EXPECT_TRUE(Forms::AllLoaded().empty());
+}
+
+TEST_F(ShellTest, EveryOpenPageGivesWayToTheNext)
+{
+  const char* const pages[] = {"frmSpecial", "frmQuillmark", "frmNew", "frmCharts", "frmReminders"};
+  for (const char* page : pages) {
+    RegisterPage(page);
+  }
+  RegisterPage("frmAnn");
+  Start();
+  for (const char* page : pages) {
+    frame->OpenPage(page);
+    ASSERT_NE(Forms::Loaded(page), nullptr);
+    Menu("mnuAnn").trigger();
+    EXPECT_EQ(Forms::Loaded(page), nullptr) << page;
+    EXPECT_TRUE(Forms::Loaded("frmAnn")->isVisible());
+  }
+}
+
+TEST_F(ShellTest, APageSwitchFreesTheCalendarsPictureAndPrintingKeepsIt)
+{
+  RegisterPage("frmNew");
+  RegisterPage("frmReminders");
+  RegisterPage("frmPrintCal", Form::Kind::kWindow);
+  Start();
+  modThemes::SetCalendarHasPicture(true);
+  Menu("mnuPersonal").trigger();
+  EXPECT_FALSE(modThemes::CalendarHasPicture());
+  bool kept = false;
+  Drive::WhenShown("frmPrintCal", [&](QWidget& dialog) {
+    kept = modThemes::CalendarHasPicture();
+    dialog.close();
+  });
+  Menu("mnuLists_2").trigger();
+  EXPECT_TRUE(kept);
+}
+
+TEST_F(ShellTest, TheOpenFrameHoldsTheDatabase)
+{
+  Start();
+  EXPECT_EQ(NumberThrownByStart([&] { DBEngine::CompactDatabase(folder.DatabasePath(), folder.File("/copy.mdb")); }),
+            3356);
+}
+
+TEST_F(ShellTest, ALoadThatFailsTwiceWarnsOfThePoorScreenOnce)
+{
+  folder.Execute("INSERT INTO People (FirstName, BirthMonth, BirthDate) VALUES ('Ann', 'May', '5')");
+  Set("Theme=9");
+  Screen::Pretend(QRect(0, 0, 640, 480));
+  boxes.Expect(kPoorScreen);
+  EXPECT_EQ(NumberThrownByStart([&] { Start(); }), 340);
 }

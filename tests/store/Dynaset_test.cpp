@@ -844,3 +844,52 @@ TEST_F(Dynaset, ItsRowsStayReadableWhileOthersComeAndGo)
   EXPECT_EQ(folder.Value("SELECT Count(*) FROM People"), cursor->RecordCount());
   EXPECT_GT(seen.size(), 300U);
 }
+
+TEST(DynasetOfThePage, WhileRowsAreLeftTheirCountIsNotNone)
+{
+  const ProgramFolder folder;
+  folder.Execute("INSERT INTO People (LastName) VALUES ('Adams'), ('Brown'), ('Cole')");
+  Database database = DBEngine::OpenDatabase();
+  const auto cursor = database.OpenRecordset(Queries::kRecords, Database::kDynaset);
+  cursor->Delete();
+  cursor->MovePrevious();
+  EXPECT_TRUE(cursor->Bof());
+  EXPECT_FALSE(cursor->Eof());
+  EXPECT_EQ(cursor->RecordCount(), 1);
+  cursor->MoveNext();
+  EXPECT_EQ(cursor->Fields("LastName").Value(), "Brown");
+}
+
+TEST(DynasetOfThePage, AMalformedCriterionKeepsWhatTheLastFindHasFound)
+{
+  const ProgramFolder folder;
+  folder.Execute("INSERT INTO People (LastName, FirstName) VALUES ('Adams', 'Ann')");
+  Database database = DBEngine::OpenDatabase();
+  const auto cursor = database.OpenRecordset(Queries::kRecords, Database::kDynaset);
+  cursor->FindFirst("fullname=\"Nobody\"");
+  ASSERT_TRUE(cursor->NoMatch());
+  EXPECT_THROW(cursor->FindFirst("fullname=\"a \"b\" c\""), RuntimeError);
+  EXPECT_TRUE(cursor->NoMatch());
+  cursor->FindFirst("fullname=\"Adams, Ann\"");
+  EXPECT_THROW(cursor->FindFirst("fullname=\"a \"b\" c\""), RuntimeError);
+  EXPECT_FALSE(cursor->NoMatch());
+}
+
+TEST(DynasetOfThePage, AnEditOnTheLastRowComesBackThroughTheEnd)
+{
+  const ProgramFolder folder;
+  folder.Execute("INSERT INTO People (LastName) VALUES ('Adams'), ('Brown')");
+  Database database = DBEngine::OpenDatabase();
+  const auto cursor = database.OpenRecordset(Queries::kRecords, Database::kDynaset);
+  cursor->MoveLast();
+  const Recordset::Bookmark here = cursor->GetBookmark();
+  cursor->Edit();
+  cursor->Fields("LastName").SetValue("Abel");
+  cursor->Update();
+  cursor->MoveNext();
+  EXPECT_TRUE(cursor->Eof());
+  cursor->SetBookmark(here);
+  EXPECT_EQ(cursor->Fields("LastName").Value(), "Abel");
+  EXPECT_EQ(cursor->AbsolutePosition(), 1);
+  EXPECT_EQ(cursor->RecordCount(), 2);
+}
