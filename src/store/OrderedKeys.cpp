@@ -173,6 +173,7 @@ OrderedKeys ReadInOrder(Connection& connection, const QString& sql, const std::v
 {
   std::vector<qint64> keys;
   std::vector<Values> values;
+  values.reserve(columns.size());
   for (const OrderingColumn& column : columns) {
     values.emplace_back(column.type);
   }
