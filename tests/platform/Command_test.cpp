@@ -3,6 +3,7 @@
 
 #include "platform/Command.h"
 #include "platform/RuntimeError.h"
+#include "support/ErrorOf.h"
 
 #include <gtest/gtest.h>
 
@@ -30,17 +31,6 @@ public:
   int abandoned = 0;
   bool failing = false;
 };
-
-template <typename Work>
-int ErrorOf(Work&& work)
-{
-  try {
-    work();
-  } catch (const RuntimeError& error) {
-    return error.Number();
-  }
-  return 0;
-}
 
 }
 

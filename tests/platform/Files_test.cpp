@@ -3,6 +3,7 @@
 
 #include "platform/Files.h"
 #include "platform/RuntimeError.h"
+#include "support/ErrorOf.h"
 
 #include <gtest/gtest.h>
 
@@ -17,17 +18,6 @@
 #include <unistd.h>
 
 namespace {
-
-template <typename Work>
-int ErrorOf(Work&& work)
-{
-  try {
-    work();
-  } catch (const RuntimeError& error) {
-    return error.Number();
-  }
-  return 0;
-}
 
 class FilesInAFolder : public testing::Test
 {

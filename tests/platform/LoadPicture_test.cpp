@@ -3,6 +3,7 @@
 
 #include "platform/LoadPicture.h"
 #include "platform/RuntimeError.h"
+#include "support/ErrorOf.h"
 
 #include <gtest/gtest.h>
 
@@ -11,17 +12,6 @@
 #include <QTemporaryDir>
 
 namespace {
-
-template <typename Work>
-int ErrorOf(Work&& work)
-{
-  try {
-    work();
-  } catch (const RuntimeError& error) {
-    return error.Number();
-  }
-  return 0;
-}
 
 class Pictures : public testing::Test
 {

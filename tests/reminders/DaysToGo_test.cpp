@@ -4,6 +4,7 @@
 #include "reminders/DaysToGo.h"
 
 #include "platform/RuntimeError.h"
+#include "support/ErrorOf.h"
 
 #include <gtest/gtest.h>
 
@@ -19,16 +20,6 @@ QVariant Text(const char* text)
 std::optional<int> Yearly(QDate today, const char* month, const char* day)
 {
   return DaysToGo(today).ToYearly(Text(month), Text(day));
-}
-
-int NumberThrown(const std::function<void()>& work)
-{
-  try {
-    work();
-  } catch (const RuntimeError& error) {
-    return error.Number();
-  }
-  return 0;
 }
 
 }
@@ -109,10 +100,10 @@ TEST(DaysToGo, AnOddMonthTakesThatOfTheRowBefore)
 TEST(DaysToGo, ADayThatIsNoNumberFails)
 {
   const QDate today(2026, 5, 5);
-  EXPECT_EQ(NumberThrown([&] { static_cast<void>(Yearly(today, "May", "fifth")); }), 13);
-  EXPECT_EQ(NumberThrown([&] { static_cast<void>(Yearly(today, "May", "5th")); }), 13);
-  EXPECT_EQ(NumberThrown([&] { static_cast<void>(Yearly(today, "May", " ")); }), 13);
-  EXPECT_EQ(NumberThrown([&] { static_cast<void>(DaysToGo(today).ToEvent(Text("May"), Text("soon"))); }), 13);
+  EXPECT_EQ(ErrorOf([&] { static_cast<void>(Yearly(today, "May", "fifth")); }), 13);
+  EXPECT_EQ(ErrorOf([&] { static_cast<void>(Yearly(today, "May", "5th")); }), 13);
+  EXPECT_EQ(ErrorOf([&] { static_cast<void>(Yearly(today, "May", " ")); }), 13);
+  EXPECT_EQ(ErrorOf([&] { static_cast<void>(DaysToGo(today).ToEvent(Text("May"), Text("soon"))); }), 13);
 }
 
 TEST(DaysToGo, AnEventHasItsOwnYearAndDoesNotRecur)

@@ -6,6 +6,7 @@
 #include "looks/modThemes.h"
 #include "platform/RuntimeError.h"
 #include "store/DBEngine.h"
+#include "support/ErrorOf.h"
 
 #include <QMenu>
 #include <QMenuBar>
@@ -38,16 +39,6 @@ public:
 private:
   int handle_;
 };
-
-int NumberThrownByStart(const std::function<void()>& start)
-{
-  try {
-    start();
-  } catch (const RuntimeError& error) {
-    return error.Number();
-  }
-  return 0;
-}
 
 QStringList Captions(const QMenu& menu)
 {
@@ -263,7 +254,7 @@ TEST_F(ShellTest, AThemeThatIsNoneEndsTheStart)
 {
   for (const char* theme : {"9", "-1", "6"}) {
     Set(QStringLiteral("Theme=") + theme);
-    EXPECT_EQ(NumberThrownByStart([&] { Start(); }), 340) << theme;
+    EXPECT_EQ(ErrorOf([&] { Start(); }), 340) << theme;
     frame.reset();
   }
 }
@@ -272,29 +263,29 @@ TEST_F(ShellTest, AThemeThatIsNoneEndsTheStartAlsoWithSomethingDue)
 {
   folder.Execute("INSERT INTO People (FirstName, BirthMonth, BirthDate) VALUES ('Ann', 'May', '5')");
   Set("Theme=9");
-  EXPECT_EQ(NumberThrownByStart([&] { Start(); }), 340);
+  EXPECT_EQ(ErrorOf([&] { Start(); }), 340);
 }
 
 TEST_F(ShellTest, WhatIsMissingAtTheStartIsNamedByItsNumber)
 {
   Set("ToolTips=NULL");
-  EXPECT_EQ(NumberThrownByStart([&] { Start(); }), 94);
+  EXPECT_EQ(ErrorOf([&] { Start(); }), 94);
   frame.reset();
   Set("ToolTips=0, Theme=NULL");
-  EXPECT_EQ(NumberThrownByStart([&] { Start(); }), 94);
+  EXPECT_EQ(ErrorOf([&] { Start(); }), 94);
   frame.reset();
   Set("Theme=1");
   QFile::remove(folder.File("/animp.ico"));
-  EXPECT_EQ(NumberThrownByStart([&] { Start(); }), 53);
+  EXPECT_EQ(ErrorOf([&] { Start(); }), 53);
   frame.reset();
   folder.Execute("DELETE FROM Options");
-  EXPECT_EQ(NumberThrownByStart([&] { Start(); }), 3021);
+  EXPECT_EQ(ErrorOf([&] { Start(); }), 3021);
   frame.reset();
   folder.Execute("DROP TABLE Options");
-  EXPECT_EQ(NumberThrownByStart([&] { Start(); }), 3078);
+  EXPECT_EQ(ErrorOf([&] { Start(); }), 3078);
   frame.reset();
   QFile::remove(folder.DatabasePath());
-  EXPECT_EQ(NumberThrownByStart([&] { Start(); }), 3024);
+  EXPECT_EQ(ErrorOf([&] { Start(); }), 3024);
   EXPECT_FALSE(QFile::exists(folder.DatabasePath())) << "the program makes no database";
 }
 
@@ -305,7 +296,7 @@ TEST_F(ShellTest, AFileThatIsNoDatabaseStaysAsItWas)
   ASSERT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
   file.write(text.repeated(100));
   file.close();
-  EXPECT_EQ(NumberThrownByStart([&] { Start(); }), 3343);
+  EXPECT_EQ(ErrorOf([&] { Start(); }), 3343);
   ASSERT_TRUE(file.open(QIODevice::ReadOnly));
   EXPECT_EQ(file.readAll(), text.repeated(100));
 }
@@ -556,8 +547,7 @@ TEST_F(ShellTest, APageSwitchFreesTheCalendarsPictureAndPrintingKeepsIt)
 TEST_F(ShellTest, TheOpenFrameHoldsTheDatabase)
 {
   Start();
-  EXPECT_EQ(NumberThrownByStart([&] { DBEngine::CompactDatabase(folder.DatabasePath(), folder.File("/copy.mdb")); }),
-            3356);
+  EXPECT_EQ(ErrorOf([&] { DBEngine::CompactDatabase(folder.DatabasePath(), folder.File("/copy.mdb")); }), 3356);
 }
 
 TEST_F(ShellTest, ALoadThatFailsTwiceWarnsOfThePoorScreenOnce)
@@ -566,5 +556,5 @@ TEST_F(ShellTest, ALoadThatFailsTwiceWarnsOfThePoorScreenOnce)
   Set("Theme=9");
   Screen::Pretend(QRect(0, 0, 640, 480));
   boxes.Expect(kPoorScreen);
-  EXPECT_EQ(NumberThrownByStart([&] { Start(); }), 340);
+  EXPECT_EQ(ErrorOf([&] { Start(); }), 340);
 }

@@ -4,6 +4,7 @@
 #include "store/DBEngine.h"
 #include "store/Queries.h"
 #include "store/StoreError.h"
+#include "support/ErrorOf.h"
 #include "support/ProgramFolder.h"
 
 #include <gtest/gtest.h>
@@ -15,17 +16,6 @@
 #include <sqlite3.h>
 
 namespace {
-
-template <typename Work>
-int ErrorOf(Work&& work)
-{
-  try {
-    work();
-  } catch (const RuntimeError& error) {
-    return error.Number();
-  }
-  return 0;
-}
 
 QByteArray Contents(const QString& path)
 {

@@ -6,6 +6,7 @@
 #include "platform/Files.h"
 #include "store/Queries.h"
 #include "store/StoreError.h"
+#include "support/ErrorOf.h"
 #include "support/ProgramFolder.h"
 
 #include <gtest/gtest.h>
@@ -20,17 +21,6 @@
 #include <unistd.h>
 
 namespace {
-
-template <typename Work>
-int ErrorOf(Work&& work)
-{
-  try {
-    work();
-  } catch (const RuntimeError& error) {
-    return error.Number();
-  }
-  return 0;
-}
 
 QByteArray Contents(const QString& path)
 {

@@ -5,6 +5,7 @@
 #include "store/DBEngine.h"
 #include "store/Queries.h"
 #include "store/StoreError.h"
+#include "support/ErrorOf.h"
 #include "support/ProgramFolder.h"
 
 #include <gtest/gtest.h>
@@ -12,17 +13,6 @@
 #include <random>
 
 namespace {
-
-template <typename Work>
-int ErrorOf(Work&& work)
-{
-  try {
-    work();
-  } catch (const RuntimeError& error) {
-    return error.Number();
-  }
-  return 0;
-}
 
 const QString* const kFixedQueries[] = {
     &Queries::kPeopleByFirstName,

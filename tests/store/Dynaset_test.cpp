@@ -4,6 +4,7 @@
 #include "store/DBEngine.h"
 #include "store/Queries.h"
 #include "store/StoreError.h"
+#include "support/ErrorOf.h"
 #include "support/ProgramFolder.h"
 
 #include <gtest/gtest.h>
@@ -14,17 +15,6 @@
 #include <set>
 
 namespace {
-
-template <typename Work>
-int ErrorOf(Work&& work)
-{
-  try {
-    work();
-  } catch (const RuntimeError& error) {
-    return error.Number();
-  }
-  return 0;
-}
 
 class Dynaset : public testing::Test
 {

@@ -4,6 +4,7 @@
 #include "store/DBEngine.h"
 #include "store/Queries.h"
 #include "store/StoreError.h"
+#include "support/ErrorOf.h"
 #include "support/ProgramFolder.h"
 
 #include <gtest/gtest.h>
@@ -11,17 +12,6 @@
 #include <QDate>
 
 namespace {
-
-template <typename Work>
-int ErrorOf(Work&& work)
-{
-  try {
-    work();
-  } catch (const RuntimeError& error) {
-    return error.Number();
-  }
-  return 0;
-}
 
 // What holds for every cursor, over a table as over a query.
 class EveryCursor : public testing::TestWithParam<int>

@@ -6,6 +6,7 @@
 #include "store/DBEngine.h"
 #include "store/Queries.h"
 #include "store/StoreError.h"
+#include "support/ErrorOf.h"
 #include "support/ProgramFolder.h"
 
 #include <gtest/gtest.h>
@@ -17,17 +18,6 @@
 #include <unistd.h>
 
 namespace {
-
-template <typename Work>
-int ErrorOf(Work&& work)
-{
-  try {
-    work();
-  } catch (const RuntimeError& error) {
-    return error.Number();
-  }
-  return 0;
-}
 
 // Writes of cursors within commands, seen through a connection of somebody else.
 class StoreInCommands : public testing::Test
