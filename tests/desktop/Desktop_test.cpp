@@ -256,3 +256,27 @@ TEST(Desktop, LeavingTheNoticesSilencesTheClipAtOnce)
   const Sounds::Place place = Sounds::Find(Sounds::ReadClip(desktop.File("/notices/hapbirth.wav")), recording);
   EXPECT_LT(place.likeness, kAlike) << "its middle was never heard";
 }
+
+TEST(Desktop, CloseQuillmarkEndsTheProgramWhileAClipPlays)
+{
+  SoundServer sound;
+  VirtualDesktop desktop;
+  desktop.SetEnvironment("PULSE_SERVER", sound.Address());
+  desktop.RunSql(InsertBirthdayToday());
+  const auto program = desktop.StartProgram();
+  const auto notices = desktop.AwaitWindow(*program, kNotices);
+  ASSERT_TRUE(notices);
+  EXPECT_TRUE(sound.AwaitSound());
+  desktop.ClickAt(*notices, 80, 200);
+  EndsWith(*program, 0);
+}
+
+TEST(Desktop, ExitProgramEndsIt)
+{
+  VirtualDesktop desktop;
+  const auto program = desktop.StartProgram();
+  const auto frame = desktop.AwaitWindow(*program, kFrame);
+  ASSERT_TRUE(frame);
+  desktop.ClickAt(*frame, 80, 487);
+  EndsWith(*program, 0);
+}

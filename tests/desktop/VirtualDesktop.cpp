@@ -38,28 +38,48 @@ VirtualDesktop::VirtualDesktop(const QString& screen) : environment_(QProcessEnv
 
 VirtualDesktop::~VirtualDesktop()
 {
-  for (QProcess* process : {&windowManager_, &display_}) {
-    process->terminate();
-    process->waitForFinished(kPatience);
-  }
+  StopDisplay();
 }
 
+// A display whose number another program takes in the same moment does not come up
+// well; then another one is tried.
 void VirtualDesktop::StartDisplay(const QString& screen)
+{
+  constexpr int kTries = 5;
+  for (int attempt = 0; attempt < kTries; ++attempt) {
+    if (TryDisplay(screen)) {
+      return;
+    }
+    StopDisplay();
+  }
+  throw std::runtime_error("no virtual display with a window manager can be had");
+}
+
+bool VirtualDesktop::TryDisplay(const QString& screen)
 {
   display_.setProcessChannelMode(QProcess::ForwardedErrorChannel);
   display_.start(QStringLiteral("Xvfb"), {"-displayfd", "1", "-screen", "0", screen, "-nolisten", "tcp"});
-  if (!display_.waitForReadyRead(kPatience)) {
-    throw std::runtime_error("Xvfb does not start");
+  while (!display_.canReadLine()) {
+    if (!display_.waitForReadyRead(kPatience)) {
+      return false;
+    }
   }
   environment_.insert(QStringLiteral("DISPLAY"),
                       QStringLiteral(":") + QString::fromUtf8(display_.readLine()).trimmed());
   windowManager_.setProcessEnvironment(environment_);
   windowManager_.start(QStringLiteral("openbox"), QStringList());
-  const bool managed = QTest::qWaitFor([this] {
-    return Run("xprop", {"-root", "_NET_SUPPORTING_WM_CHECK"}).contains(QLatin1String("window id"));
-  });
-  if (!managed) {
-    throw std::runtime_error("the window manager does not start");
+  return QTest::qWaitFor(
+      [this] {
+        return Run("xprop", {"-root", "_NET_SUPPORTING_WM_CHECK"}).contains(QLatin1String("window id"));
+      },
+      kPatience / 3);
+}
+
+void VirtualDesktop::StopDisplay()
+{
+  for (QProcess* process : {&windowManager_, &display_}) {
+    process->terminate();
+    process->waitForFinished(kPatience);
   }
 }
 

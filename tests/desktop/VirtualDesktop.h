@@ -46,6 +46,8 @@ public:
 
 private:
   void StartDisplay(const QString& screen);
+  bool TryDisplay(const QString& screen);
+  void StopDisplay();
   void CopyLaidFolder();
 
   QTemporaryDir directory_;
