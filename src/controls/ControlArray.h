@@ -47,8 +47,7 @@ public:
   {
     const auto found = elements_.find(index);
     if (found == elements_.end()) {
-      throw RuntimeError(ErrorNumber::kNoSuchElement,
-                         QStringLiteral("Control array element '%1' doesn't exist").arg(index));
+      RaiseNoSuchElement(index);
     }
     return *found->second;
   }

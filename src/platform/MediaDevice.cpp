@@ -14,6 +14,7 @@
 
 #include <map>
 #include <optional>
+#include <tuple>
 
 namespace MediaDevice {
 namespace {
@@ -28,13 +29,15 @@ struct Clip
 std::optional<Clip> clip;
 
 // The effects are kept for good: the toolkit's loader may wait for ever for itself when
-// a sound goes while it is being loaded. A file that has changed is another sound.
+// a sound goes while it is being loaded. A file that has changed is another sound, and so
+// is the same file on another output, such as one that came up after the program.
 QSoundEffect& EffectFor(const QString& path)
 {
-  static std::map<std::pair<QString, QDateTime>, QSoundEffect*> effects;
-  QSoundEffect*& effect = effects[{path, QFileInfo(path).lastModified()}];
+  static std::map<std::tuple<QString, QDateTime, QByteArray>, QSoundEffect*> effects;
+  const QAudioDevice output = QMediaDevices::defaultAudioOutput();
+  QSoundEffect*& effect = effects[{path, QFileInfo(path).lastModified(), output.id()}];
   if (effect == nullptr) {
-    effect = new QSoundEffect;
+    effect = new QSoundEffect(output);
     effect->setSource(QUrl::fromLocalFile(path));
   }
   return *effect;

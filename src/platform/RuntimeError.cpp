@@ -42,3 +42,9 @@ void RaiseError(int number)
 {
   throw RuntimeError(number, UsualText(number));
 }
+
+void RaiseNoSuchElement(int index)
+{
+  throw RuntimeError(ErrorNumber::kNoSuchElement,
+                     QStringLiteral("Control array element '%1' doesn't exist").arg(index));
+}

@@ -44,3 +44,6 @@ inline constexpr int kInvalidPicture = 481;
 
 // Throws the failure with its usual text.
 [[noreturn]] void RaiseError(int number);
+
+// Throws 340, for an index that a control array has not.
+[[noreturn]] void RaiseNoSuchElement(int index);

@@ -97,8 +97,7 @@ void FrameMenu::EnableEntries()
 void FrameMenu::MarkTheme(int theme)
 {
   if (theme < 0 || theme >= modThemes::kThemeCount) {
-    throw RuntimeError(ErrorNumber::kNoSuchElement,
-                       QStringLiteral("Control array element '%1' doesn't exist").arg(theme));
+    RaiseNoSuchElement(theme);
   }
   for (std::size_t index = 0; index < mnuTheme_.size(); ++index) {
     mnuTheme_[index]->setChecked(static_cast<int>(index) == theme);
