@@ -4,8 +4,18 @@
 #include "controls/ComboBox.h"
 
 #include "controls/LinesModel.h"
+#include "controls/Repolish.h"
 
+#include <QKeyEvent>
+#include <QLineEdit>
 #include <QListView>
+#include <QMouseEvent>
+
+namespace {
+
+constexpr int kVisibleLines = 12;  // the months of a year
+
+}
 
 ComboBox::ComboBox(QWidget* parent) : QComboBox(parent), lines_(new LinesModel(this))
 {
@@ -18,6 +28,7 @@ ComboBox::ComboBox(QWidget* parent) : QComboBox(parent), lines_(new LinesModel(t
   setStyleSheet(QStringLiteral("combobox-popup: 0"));
   setCurrentIndex(-1);
   setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+  setMaxVisibleItems(kVisibleLines);
   connect(this, &QComboBox::activated, this, &ComboBox::Click);
 }
 
@@ -39,6 +50,47 @@ void ComboBox::SetListIndex(int index)
   }
 }
 
+void ComboBox::SetText(const QString& text)
+{
+  setCurrentIndex(text.isEmpty() ? -1 : findText(text, Qt::MatchExactly | Qt::MatchCaseSensitive));
+  if (typing_ != Listed) {
+    setEditText(text);
+  }
+}
+
+void ComboBox::SetLocked(bool locked)
+{
+  if (locked == locked_) {
+    return;
+  }
+  locked_ = locked;
+  if (typing_ != Listed) {
+    lineEdit()->setReadOnly(locked);
+  }
+  Repolish(*this);
+}
+
+void ComboBox::SetTyping(TypingKind typing)
+{
+  typing_ = typing;
+  if (typing == Listed) {
+    setEditable(false);
+  } else {
+    MakeEditable();
+  }
+}
+
+void ComboBox::MakeEditable()
+{
+  setEditable(true);
+  setInsertPolicy(QComboBox::NoInsert);
+  setCompleter(nullptr);
+  lineEdit()->setReadOnly(locked_);
+  lineEdit()->setContextMenuPolicy(Qt::NoContextMenu);
+  lineEdit()->setAcceptDrops(false);
+  lineEdit()->installEventFilter(this);
+}
+
 void ComboBox::AddItem(const QString& line)
 {
   AddItems({line});
@@ -48,9 +100,13 @@ void ComboBox::AddItem(const QString& line)
 void ComboBox::AddItems(const QStringList& lines)
 {
   const int chosen = currentIndex();
+  const QString text = currentText();
   const QSignalBlocker quiet(this);
   lines_->Insert(ListCount(), lines);
   setCurrentIndex(chosen);
+  if (typing_ != Listed) {
+    setEditText(text);
+  }
 }
 
 void ComboBox::Clear()
@@ -58,4 +114,89 @@ void ComboBox::Clear()
   const QSignalBlocker quiet(this);
   lines_->Clear();
   setCurrentIndex(-1);
+  if (typing_ != Listed) {
+    clearEditText();
+  }
+}
+
+void ComboBox::showPopup()
+{
+  if (!locked_) {
+    QComboBox::showPopup();
+  }
+}
+
+// A click into the text opens the list, at its release, which would close it again. The
+// other buttons would paste.
+bool ComboBox::eventFilter(QObject* watched, QEvent* event)
+{
+  const QEvent::Type type = event->type();
+  if (watched == lineEdit() && type == QEvent::InputMethod) {
+    return true;
+  }
+  if (watched != lineEdit() || locked_) {
+    return QComboBox::eventFilter(watched, event);
+  }
+  if (type == QEvent::MouseButtonRelease && static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton) {
+    setFocus(Qt::MouseFocusReason);
+    showPopup();
+    return true;
+  }
+  const bool isMouse =
+      type == QEvent::MouseButtonPress || type == QEvent::MouseButtonRelease || type == QEvent::MouseButtonDblClick;
+  return isMouse || QComboBox::eventFilter(watched, event);
+}
+
+bool ComboBox::Passes(const QKeyEvent& event) const
+{
+  if (event.matches(QKeySequence::Copy) || event.matches(QKeySequence::SelectAll)) {
+    return true;
+  }
+  switch (event.key()) {
+    case Qt::Key_Left:
+    case Qt::Key_Right:
+      return true;
+    case Qt::Key_Up:
+    case Qt::Key_Down:
+    case Qt::Key_PageUp:
+    case Qt::Key_PageDown:
+    case Qt::Key_Home:
+    case Qt::Key_End:
+    case Qt::Key_F4:
+      return !locked_;
+    case Qt::Key_Backspace:
+      return typing_ == BackspaceOnly && !locked_ &&
+             (event.modifiers() & ~Qt::KeyboardModifiers(Qt::ShiftModifier)) == Qt::NoModifier;
+    default:
+      return false;
+  }
+}
+
+void ComboBox::keyPressEvent(QKeyEvent* event)
+{
+  if (typing_ == Listed && !locked_) {
+    QComboBox::keyPressEvent(event);
+  } else if (Passes(*event)) {
+    QComboBox::keyPressEvent(event);
+  } else if (event->text().isEmpty() || event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter ||
+             event->key() == Qt::Key_Escape) {
+    event->ignore();
+  }
+}
+
+void ComboBox::inputMethodEvent(QInputMethodEvent* event)
+{
+  if (typing_ == Listed) {
+    QComboBox::inputMethodEvent(event);
+  }
+}
+
+QVariant ComboBox::inputMethodQuery(Qt::InputMethodQuery query) const
+{
+  return typing_ != Listed && query == Qt::ImEnabled ? QVariant(false) : QComboBox::inputMethodQuery(query);
+}
+
+void ComboBox::wheelEvent(QWheelEvent* event)
+{
+  event->ignore();
 }

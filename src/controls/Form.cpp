@@ -6,6 +6,7 @@
 #include "controls/Forms.h"
 #include "controls/Frame.h"
 #include "platform/Command.h"
+#include "platform/RuntimeError.h"
 #include "platform/Twips.h"
 
 #include <QCloseEvent>
@@ -14,16 +15,32 @@
 #include <QPointer>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
-// The place of the form's own picture: the right third, in from the edges by the margin.
-QRect PicturePlace(const QSize& form, const QSize& picture)
+// The right third, in from the edges by the margin.
+QRect RightThird(const QSize& form)
 {
   constexpr int kMargin = 32;
-  const QSize room(form.width() / 3 - kMargin, form.height() - 2 * kMargin);
-  const QSize size = picture.scaled(room, Qt::KeepAspectRatio);
-  return {QPoint(form.width() - kMargin - size.width(), form.height() - kMargin - size.height()), size};
+  const int width = form.width() / 3 - kMargin;
+  return {form.width() - kMargin - width, kMargin, width, form.height() - 2 * kMargin};
+}
+
+QRect InProportion(const QRect& place, const QSize& from, const QSize& to)
+{
+  const double across = double(to.width()) / from.width();
+  const double down = double(to.height()) / from.height();
+  return {qRound(place.x() * across), qRound(place.y() * down), qRound(place.width() * across),
+          qRound(place.height() * down)};
+}
+
+// In the lower right corner of its room.
+QRect Placed(const QSize& picture, const QRect& room)
+{
+  QRect place(QPoint(), picture.scaled(room.size(), Qt::KeepAspectRatio));
+  place.moveBottomRight(room.bottomRight());
+  return place;
 }
 
 bool IsDesigned(const QWidget& widget)
@@ -109,10 +126,18 @@ bool Form::Unload()
   if (cancel) {
     return false;
   }
-  Form_Unload();
-  Forms::Forget(*this);
-  hide();
-  deleteLater();
+  const auto leave = [this] {
+    Forms::Forget(*this);
+    hide();
+    deleteLater();
+  };
+  try {
+    Form_Unload();
+  } catch (const RuntimeError&) {
+    leave();
+    throw;
+  }
+  leave();
   return true;
 }
 
@@ -135,6 +160,13 @@ void Form::SetBackColor(const QColor& color)
 void Form::SetPicture(const QPixmap& picture)
 {
   picture_ = picture;
+  update();
+}
+
+void Form::SetPicturePlace(const QRect& place)
+{
+  picturePlace_ = place;
+  designSize_ = size();
   update();
 }
 
@@ -191,7 +223,8 @@ void Form::paintEvent(QPaintEvent*)
   painter.fillRect(rect(), backColor_);
   if (!picture_.isNull()) {
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
-    painter.drawPixmap(PicturePlace(size(), picture_.size()), picture_);
+    const QRect room = picturePlace_.isEmpty() ? RightThird(size()) : InProportion(picturePlace_, designSize_, size());
+    painter.drawPixmap(Placed(picture_.size(), room), picture_);
   }
 }
 

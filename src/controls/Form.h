@@ -17,6 +17,7 @@ class Form : public QWidget
 {
   Q_OBJECT
   Q_PROPERTY(QColor BackColor READ BackColor WRITE SetBackColor)
+  Q_PROPERTY(QRect PicturePlace READ PicturePlace WRITE SetPicturePlace)
 
 public:
   enum class Kind
@@ -35,7 +36,8 @@ public:
   void ShowTopmost();  // not modal, above all other windows
   void Hide();
 
-  // Takes the form out of the loaded ones and deletes it. False if it refuses.
+  // Takes the form out of the loaded ones and deletes it, also if its own part of that
+  // throws. False if it refuses.
   bool Unload();
 
   // Size of the inner area in twips.
@@ -45,9 +47,12 @@ public:
   [[nodiscard]] QColor BackColor() const { return backColor_; }
   void SetBackColor(const QColor& color);
 
-  // The form's own picture, drawn on its right third, above its lower edge.
+  // The form's own picture, drawn as large as its place at the design size lets it, in
+  // proportion to the form. Without a place it stands on the right third.
   [[nodiscard]] const QPixmap& Picture() const { return picture_; }
   void SetPicture(const QPixmap& picture);
+  [[nodiscard]] QRect PicturePlace() const { return picturePlace_; }
+  void SetPicturePlace(const QRect& place);
 
   // What stands on the form, in the order of its design.
   [[nodiscard]] const std::vector<QWidget*>& Controls() const { return controls_; }
@@ -89,6 +94,8 @@ private:
   Kind kind_;
   QColor backColor_ = Qt::white;
   QPixmap picture_;
+  QRect picturePlace_;
+  QSize designSize_;
   std::vector<QWidget*> controls_;
   QEventLoop* modalLoop_ = nullptr;
   bool loaded_ = false;

@@ -34,6 +34,10 @@ public:
   // Leaves the open page for the one of that name; a page with an open edit refuses.
   virtual void OpenPage(const QString& name) = 0;
 
+  // Whether the database may be compacted and backed up now. A page that holds cursors
+  // open forbids it for as long.
+  virtual void AllowDatabaseCare(bool allowed) = 0;
+
   // The one-second timer that follows the clips.
   [[nodiscard]] virtual bool TimerEnabled() const = 0;
   virtual void SetTimerEnabled(bool enabled) = 0;

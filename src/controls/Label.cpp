@@ -88,7 +88,8 @@ void Label::mouseReleaseEvent(QMouseEvent* event)
 void Label::keyPressEvent(QKeyEvent* event)
 {
   const int key = event->key();
-  if (IsCommand() && (key == Qt::Key_Space || key == Qt::Key_Return || key == Qt::Key_Enter)) {
+  if (IsCommand() && !event->isAutoRepeat() &&
+      (key == Qt::Key_Space || key == Qt::Key_Return || key == Qt::Key_Enter)) {
     Q_EMIT Click();
     return;
   }
@@ -131,6 +132,7 @@ void Label::PaintText(QPainter& painter) const
   QPalette colors = palette();
   colors.setColor(QPalette::Active, QPalette::WindowText, ForeColor());
   colors.setColor(QPalette::Inactive, QPalette::WindowText, ForeColor());
-  style()->drawItemText(&painter, rect().adjusted(inset, 0, -inset, 0), flags, colors, isEnabled(), text(),
-                        QPalette::WindowText);
+  const QRect room = rect().adjusted(inset, 0, -inset, 0);
+  const QString shown = wordWrap() ? text() : fontMetrics().elidedText(text(), Qt::ElideRight, room.width());
+  style()->drawItemText(&painter, room, flags, colors, isEnabled(), shown, QPalette::WindowText);
 }

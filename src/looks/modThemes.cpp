@@ -46,8 +46,8 @@ void SetVisible(const Form& form, std::string_view name, bool visible)
 
 void ColourControl(QWidget& control, const QColor& colour)
 {
-  if (auto* box = qobject_cast<PictureBox*>(&control)) {
-    box->SetBackColor(colour);
+  if (control.metaObject()->indexOfProperty("BackColor") >= 0) {
+    control.setProperty("BackColor", colour);
     return;
   }
   QPalette palette = control.palette();

@@ -13,13 +13,6 @@ int depth = 0;
 long serial = 0;
 std::vector<Participant*> participants;
 
-void AbandonAll() noexcept
-{
-  for (Participant* participant : std::exchange(participants, {})) {
-    participant->Abandon();
-  }
-}
-
 }
 
 bool IsRunning()
@@ -53,6 +46,13 @@ void Settle()
   }
 }
 
+void Abandon() noexcept
+{
+  for (Participant* participant : std::exchange(participants, {})) {
+    participant->Abandon();
+  }
+}
+
 Scope::Scope()
 {
   if (depth++ == 0) {
@@ -64,7 +64,7 @@ Scope::~Scope()
 {
   --depth;
   if (!completed_ && depth == 0) {
-    AbandonAll();
+    Abandon();
   }
 }
 

@@ -35,6 +35,9 @@ void Withdraw(Participant& participant);
 // Settles what was written so far, within a command.
 void Settle();
 
+// Takes back what was written since the last Settle, within a command.
+void Abandon() noexcept;
+
 // Opens a command, or joins the one that runs. Without Complete it is abandoned.
 class Scope
 {

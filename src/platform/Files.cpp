@@ -73,6 +73,7 @@ void CopyFile(const QString& source, const QString& target)
   if (!to.open(QIODevice::WriteOnly)) {
     RaiseError(ErrorNumber::kFileAccess);
   }
+  to.setPermissions(from.permissions());
   Pour(from, to);
   if (!to.commit()) {
     RaiseError(ErrorNumber::kFileAccess);

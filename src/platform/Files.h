@@ -19,7 +19,8 @@ void DeleteFile(const QString& path);
 // Gives a file another name; fails if the new name is taken.
 void Name(const QString& oldPath, const QString& newPath);
 
-// Copies a file over whatever stands at `target`. The copy appears whole or not at all.
+// Copies a file over whatever stands at `target`. The copy appears whole or not at all,
+// with the permissions of its source.
 void CopyFile(const QString& source, const QString& target);
 
 // The lines of a UTF-8 text file, without their line ends.

@@ -8,17 +8,41 @@
 #include <QFileInfo>
 #include <QImageReader>
 
+namespace {
+
+// In megabytes. The photographs of today's largest cameras fit in.
+constexpr int kMemoryLimit = 512;
+constexpr QSize kLargest(4096, 4096);
+
+// What reads a picture at a smaller size need not hold all of it.
+void LimitSize(QImageReader& reader)
+{
+  const QSize size = reader.size();
+  if (size.width() > kLargest.width() || size.height() > kLargest.height()) {
+    reader.setScaledSize(size.scaled(kLargest, Qt::KeepAspectRatio).expandedTo(QSize(1, 1)));
+  }
+}
+
+}
+
 QPixmap LoadPicture(const QString& path)
 {
   if (!QFileInfo::exists(path)) {
     RaiseError(ErrorNumber::kFileNotFound);
   }
+  if (!QFileInfo(path).isFile()) {
+    RaiseError(ErrorNumber::kInvalidPicture);
+  }
+  QImageReader::setAllocationLimit(kMemoryLimit);
   QImageReader reader(path);
   reader.setDecideFormatFromContent(true);
+  reader.setAutoTransform(true);
+  LimitSize(reader);
   QPixmap picture = QPixmap::fromImageReader(&reader);
   if (picture.isNull()) {
     RaiseError(ErrorNumber::kInvalidPicture);
   }
+  picture.setDevicePixelRatio(1);  // also of a file whose name ends in "@2x"
   return picture;
 }
 

@@ -7,7 +7,9 @@
 #include "platform/Command.h"
 
 #include <QApplication>
+#include <QKeyEvent>
 #include <QMessageBox>
+#include <QPushButton>
 
 namespace {
 
@@ -51,6 +53,24 @@ MsgBoxAnswer Answer(int button)
   }
 }
 
+// A key that is still held from the command that asks is no answer.
+class HeldKeys : public QObject
+{
+public:
+  explicit HeldKeys(QMessageBox& box)
+  {
+    box.installEventFilter(this);
+    for (QAbstractButton* button : box.buttons()) {
+      button->installEventFilter(this);
+    }
+  }
+
+  bool eventFilter(QObject* /*watched*/, QEvent* event) override
+  {
+    return event->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(event)->isAutoRepeat();
+  }
+};
+
 }
 
 MsgBoxAnswer MsgBox(const QString& text, MsgBoxButtons buttons, const QString& title)
@@ -64,5 +84,6 @@ MsgBoxAnswer MsgBox(const QString& text, MsgBoxButtons buttons, const QString& t
   box.setWindowIcon(QIcon(App::File(QStringLiteral("/animp.ico"))));
   box.setStandardButtons(Shown(buttons));
   box.setEscapeButton(OnEscape(buttons));
+  const HeldKeys held(box);
   return Answer(box.exec());
 }

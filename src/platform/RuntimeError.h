@@ -40,6 +40,7 @@ inline constexpr int kInvalidUseOfNull = 94;
 inline constexpr int kNoSuchElement = 340;
 inline constexpr int kObjectUnloaded = 364;
 inline constexpr int kInvalidPicture = 481;
+inline constexpr int kCancelled = 32755;
 }
 
 // Throws the failure with its usual text.

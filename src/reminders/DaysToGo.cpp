@@ -3,18 +3,11 @@
 
 #include "reminders/DaysToGo.h"
 
+#include "platform/Months.h"
+#include "platform/Numeric.h"
 #include "platform/RuntimeError.h"
 
-#include <algorithm>
-#include <array>
-
 namespace {
-
-constexpr std::array<QLatin1StringView, 12> kMonths = {
-    QLatin1StringView("January"), QLatin1StringView("February"), QLatin1StringView("March"),
-    QLatin1StringView("April"),   QLatin1StringView("May"),      QLatin1StringView("June"),
-    QLatin1StringView("July"),    QLatin1StringView("August"),   QLatin1StringView("September"),
-    QLatin1StringView("October"), QLatin1StringView("November"), QLatin1StringView("December")};
 
 // A value's text without a copy of it; empty for Null.
 QStringView TextOf(const QVariant& value, QString& holder)
@@ -44,23 +37,9 @@ int ToNumber(QStringView text)
   if (const int day = ToPlainDay(text); day >= 0) {
     return day;
   }
-  bool isNumber = false;
-  const int number = text.trimmed().toInt(&isNumber);
-  if (!isNumber) {
-    RaiseError(ErrorNumber::kTypeMismatch);
-  }
-  return number;
+  return ToInteger(text.toString());
 }
 
-}
-
-QDate DateSerial(int year, int month, int day)
-{
-  const QDate date = QDate(year, 1, 1).addMonths(month - 1).addDays(qint64{day} - 1);
-  if (!date.isValid()) {
-    RaiseError(ErrorNumber::kOverflow);
-  }
-  return date;
 }
 
 DaysToGo::DaysToGo(QDate today) : today_(today)
@@ -70,12 +49,11 @@ DaysToGo::DaysToGo(QDate today) : today_(today)
 
 void DaysToGo::ReadMonth(QStringView name)
 {
-  if (month_ > 0 && name == kMonths[static_cast<std::size_t>(month_ - 1)]) {
+  if (month_ > 0 && name == kMonthNames[static_cast<std::size_t>(month_ - 1)]) {
     return;
   }
-  const auto found = std::find(kMonths.begin(), kMonths.end(), name);
-  if (found != kMonths.end()) {
-    month_ = static_cast<int>(found - kMonths.begin()) + 1;
+  if (const int month = MonthNumber(name); month > 0) {
+    month_ = month;
   }
 }
 

@@ -40,7 +40,3 @@ private:
   int month_ = 0;
   std::array<int, 13 * kKnownDays> counted_{};
 };
-
-// The date of a year, month and day, where a month or a day too many carries over.
-// Throws 6 if there is no such date.
-[[nodiscard]] QDate DateSerial(int year, int month, int day);

@@ -10,6 +10,7 @@
 #include "looks/modToolTips.h"
 #include "platform/RuntimeError.h"
 #include "reminders/modTextNotices.h"
+#include "shell/DatabaseCare.h"
 #include "shell/PageSwitch.h"
 #include "ui_mdiQuillmark.h"
 
@@ -61,6 +62,8 @@ void FrameMenu::ConnectControls()
   ConnectDialog(ui_.mnuAbout, "frmAbout");
   ConnectPage(ui_.mnuPersonal, "frmNew");
   connect(ui_.mnuReminderCheck, &QAction::triggered, this, [] { modTextNotices::CheckReminders(true); });
+  connect(ui_.mnuCompact, &QAction::triggered, this, [] { DatabaseCare::Compact(); });
+  connect(ui_.mnuBackup, &QAction::triggered, this, [] { DatabaseCare::Backup(); });
   connect(ui_.mnuAnn, &QAction::triggered, this, &FrameMenu::mnuAnn_Click);
 }
 

@@ -102,6 +102,7 @@ void mdiQuillmark::Load()
   menu_.MarkTheme(Options::Required(*store_->theme, QStringLiteral("Theme")).toInt());
   modToolTips::SetTipsOff(Options::Required(*store_->toolTips, QStringLiteral("ToolTips")).toBool());
   menu_.MarkTips();
+  store_.reset();  // the file is to be free for compaction
   loaded_ = true;
 }
 
@@ -186,6 +187,12 @@ void mdiQuillmark::PlacePage(Form& page)
 void mdiQuillmark::OpenPage(const QString& name)
 {
   PageSwitch::OpenPage(name);
+}
+
+void mdiQuillmark::AllowDatabaseCare(bool allowed)
+{
+  ui_->mnuCompact->setEnabled(allowed);
+  ui_->mnuBackup->setEnabled(allowed);
 }
 
 bool mdiQuillmark::TimerEnabled() const

@@ -40,6 +40,7 @@ public:
   bool Unload() override;
   void PlacePage(Form& page) override;
   void OpenPage(const QString& name) override;
+  void AllowDatabaseCare(bool allowed) override;
   [[nodiscard]] bool TimerEnabled() const override;
   void SetTimerEnabled(bool enabled) override;
 

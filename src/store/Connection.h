@@ -9,6 +9,7 @@
 #include <map>
 #include <memory>
 #include <unordered_map>
+#include <vector>
 
 struct sqlite3;
 struct sqlite3_stmt;
@@ -53,6 +54,15 @@ public:
 
   [[nodiscard]] const TableSchema& Table(const QString& name);
 
+  // The keys that a query's ordering gave last, for the next cursor of the same order.
+  struct Order
+  {
+    QString sql;
+    long long stamp = -1;  // of the table, when it was read
+    std::vector<qint64> keys;
+  };
+  [[nodiscard]] Order& LastOrder() { return lastOrder_; }
+
 private:
   explicit Connection(const QString& path);
 
@@ -71,4 +81,5 @@ private:
   bool lost_ = false;  // the running command's writes, by a failure
   std::map<QString, long long> changes_;
   long long epoch_ = 0;
+  Order lastOrder_;
 };

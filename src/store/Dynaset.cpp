@@ -74,11 +74,21 @@ void Dynaset::ReadOrder(const Dialect::Select& select)
           ? QStringLiteral(" WHERE %1 IS NOT NULL").arg(Dialect::Translate({{*select.notNull, false}}, Table()))
           : QString();
   openedAt_ = ChangeStamp();
-  OrderedKeys ordered = ReadInOrder(Store(),
-                                    QStringLiteral("SELECT %1 FROM %2%3 ORDER BY %4")
-                                        .arg(columns.join(QLatin1Char(',')), QuoteName(Table().name), condition, key),
-                                    ordering);
+  const QString sql = QStringLiteral("SELECT %1 FROM %2%3 ORDER BY %4")
+                          .arg(columns.join(QLatin1Char(',')), QuoteName(Table().name), condition, key);
+  Connection::Order& last = Store().LastOrder();
+  const bool keepsValues =
+      std::any_of(ordering.begin(), ordering.end(), [](const OrderingColumn& column) { return column.kept; });
+  if (!keepsValues && last.sql == sql && last.stamp == openedAt_) {
+    keptFor_.assign(select.items.size(), -1);
+    Begin(last.keys);
+    return;
+  }
+  OrderedKeys ordered = ReadInOrder(Store(), sql, ordering);
   KeepValuesOf(select, ordered);
+  if (!keepsValues) {
+    last = {sql, openedAt_, ordered.keys};
+  }
   Begin(std::move(ordered.keys));
 }
 

@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <array>
+#include <deque>
 #include <numeric>
 #include <string>
 #include <unordered_map>
@@ -19,6 +20,74 @@ struct TextHash
   using is_transparent = void;
   std::size_t operator()(std::string_view text) const { return std::hash<std::string_view>{}(text); }
 };
+
+// Keeps texts, without a block of memory for each.
+class TextArena
+{
+public:
+  std::string_view Keep(std::string_view text)
+  {
+    if (blocks_.empty() || blocks_.back().size() + text.size() > blocks_.back().capacity()) {
+      blocks_.emplace_back().reserve(std::max(kBlock, text.size()));
+    }
+    std::string& block = blocks_.back();
+    block.append(text);
+    return std::string_view(block).substr(block.size() - text.size());
+  }
+
+private:
+  static constexpr std::size_t kBlock = 1 << 16;
+  std::deque<std::string> blocks_;
+};
+
+enum class Kind
+{
+  kNull,
+  kNumber,
+  kText,
+};
+
+// A value as it is compared: Null first, then numbers, then texts.
+struct SortKey
+{
+  Kind kind = Kind::kNull;
+  double number = 0;
+  std::uint64_t start = 0;  // of the text, so that most comparisons need not look at it
+  std::string_view text;
+
+  SortKey() = default;
+  explicit SortKey(double value) : kind(Kind::kNumber), number(value) {}
+  SortKey(std::string_view value, TextArena& arena) : kind(Kind::kText), text(arena.Keep(TextOrder::Key(value)))
+  {
+    for (std::size_t i = 0; i < sizeof start; ++i) {
+      start = start << 8 | (i < text.size() ? static_cast<unsigned char>(text[i]) : 0U);
+    }
+  }
+
+  bool operator<(const SortKey& other) const
+  {
+    if (kind != other.kind) {
+      return kind < other.kind;
+    }
+    if (kind == Kind::kText) {
+      return start != other.start ? start < other.start : text < other.text;
+    }
+    return number < other.number;
+  }
+};
+
+SortKey KeyIn(const Statement& statement, int column, TextArena& arena)
+{
+  switch (statement.KindOf(column)) {
+    case Statement::Kind::kNull:
+      return {};
+    case Statement::Kind::kNumber:
+      return SortKey(statement.Number(column));
+    case Statement::Kind::kText:
+      break;
+  }
+  return {statement.Bytes(column), arena};
+}
 
 // The different values of one ordering column, each numbered as it first appears.
 class Values
@@ -46,10 +115,10 @@ public:
   {
     std::vector<std::uint32_t> sorted(values_.size());
     std::iota(sorted.begin(), sorted.end(), 0U);
-    std::sort(sorted.begin(), sorted.end(), [this](auto a, auto b) { return values_[a] < values_[b]; });
+    std::sort(sorted.begin(), sorted.end(), [this](auto a, auto b) { return values_[a].key < values_[b].key; });
     std::vector<std::uint32_t> ranks(values_.size());
     for (std::size_t i = 1; i < sorted.size(); ++i) {
-      const bool above = values_[sorted[i - 1]] < values_[sorted[i]];
+      const bool above = values_[sorted[i - 1]].key < values_[sorted[i]].key;
       ranks[sorted[i]] = ranks[sorted[i - 1]] + (above ? 1 : 0);
     }
     return ranks;
@@ -68,27 +137,10 @@ public:
   }
 
 private:
-  enum class Kind
-  {
-    kNull,
-    kNumber,
-    kText,
-  };
-
   struct Value
   {
-    Kind kind = Kind::kNull;
-    double number = 0;
-    std::string text;
+    SortKey key;
     QVariant travelling;
-
-    bool operator<(const Value& other) const
-    {
-      if (kind != other.kind) {
-        return kind < other.kind;
-      }
-      return kind == Kind::kText ? text < other.text : number < other.number;
-    }
   };
 
   std::uint32_t NumberOfText(std::string_view text)
@@ -100,7 +152,7 @@ private:
     auto known = texts_.find(text);
     if (known == texts_.end()) {
       known = texts_.emplace(std::string(text), static_cast<std::uint32_t>(values_.size())).first;
-      values_.push_back({Kind::kText, 0, TextOrder::Key(text), {}});
+      values_.push_back({SortKey(text, arena_), {}});
     }
     seen = {&known->first, known->second};
     return known->second;
@@ -110,7 +162,7 @@ private:
   {
     const auto [known, isNew] = numbers_.emplace(statement.Number(column), static_cast<std::uint32_t>(values_.size()));
     if (isNew) {
-      values_.push_back({Kind::kNumber, known->first, {}, statement.Value(column, type_)});
+      values_.push_back({SortKey(known->first), statement.Value(column, type_)});
     }
     return known->second;
   }
@@ -135,6 +187,7 @@ private:
   }
 
   ColumnType type_;
+  TextArena arena_;
   std::array<Seen, kSlots> seen_{};
   std::vector<Value> values_;
   std::unordered_map<std::string, std::uint32_t, TextHash, std::equal_to<>> texts_;
@@ -169,8 +222,34 @@ std::vector<T> Arranged(const std::vector<T>& items, const std::vector<std::uint
 
 }
 
+namespace {
+
+// For one column that need not be kept: its values are mostly different ones, such as names.
+OrderedKeys ReadInOrderOfOne(Connection& connection, const QString& sql)
+{
+  std::vector<qint64> keys;
+  std::vector<SortKey> sortKeys;
+  TextArena arena;
+  Statement statement(connection, sql);
+  while (statement.Step()) {
+    keys.push_back(statement.Integer(0));
+    sortKeys.push_back(KeyIn(statement, 1, arena));
+  }
+  std::vector<std::uint32_t> rows(keys.size());
+  std::iota(rows.begin(), rows.end(), 0U);
+  std::sort(rows.begin(), rows.end(), [&](std::uint32_t a, std::uint32_t b) {
+    return sortKeys[a] < sortKeys[b] || (!(sortKeys[b] < sortKeys[a]) && a < b);
+  });
+  return {Arranged(keys, rows), std::vector<OrderedKeys::Kept>(1)};
+}
+
+}
+
 OrderedKeys ReadInOrder(Connection& connection, const QString& sql, const std::vector<OrderingColumn>& columns)
 {
+  if (columns.size() == 1 && !columns.front().kept) {
+    return ReadInOrderOfOne(connection, sql);
+  }
   std::vector<qint64> keys;
   std::vector<Values> values;
   values.reserve(columns.size());

@@ -5,15 +5,18 @@
 
 #include "store/Schema.h"
 
+#include <QVarLengthArray>
 #include <QVariant>
 
 #include <span>
 #include <vector>
 
 class Connection;
+class Statement;
 
 // Reads rows by key, live: what has changed in the file is seen. Rows asked for one
-// after the other come in growing blocks, and only the columns in use are read.
+// after the other come in growing blocks, a long walk over few columns in one pass over
+// the table, and only the columns in use are read.
 class RowReader
 {
 public:
@@ -27,19 +30,25 @@ public:
   [[nodiscard]] const QVariant* Value(std::span<const qint64> keys, int column);
 
 private:
+  static constexpr std::size_t kColumnsOfLongWalk = 3;
+
   struct Row
   {
     qint64 key = 0;
     bool exists = false;
-    std::vector<QVariant> values;  // by column; of those not wanted, nothing
+    QVarLengthArray<QVariant, kColumnsOfLongWalk> values;  // in the order of the columns wanted
   };
 
   const Row& Find(std::span<const qint64> keys);
   void Read(std::span<const qint64> keys);
+  void ReadTable(std::span<const qint64> keys);
+  void TakeBlock(std::vector<Row> block);
+  [[nodiscard]] bool IsLongWalk(std::size_t keysLeft) const;
   [[nodiscard]] Row* FindInBlock(qint64 key);
-  [[nodiscard]] QString Sql(const std::vector<int>& columns) const;
-  void Fill(std::vector<Row>& rows, const std::vector<int>& columns);
-  void Want(int column);
+  [[nodiscard]] QString Columns(const std::vector<int>& columns) const;
+  void Fill(std::vector<Row>& rows, const std::vector<int>& columns, std::size_t firstSlot);
+  void FillRow(Row& row, const Statement& statement, const std::vector<int>& columns, std::size_t firstSlot) const;
+  [[nodiscard]] std::size_t SlotFor(int column);
 
   Connection& connection_;
   const long long& changes_;
@@ -53,5 +62,7 @@ private:
   std::size_t lastFound_ = 0;
   qint64 expectedNext_ = 0;
   std::size_t nextBlockSize_ = 1;
+  int largestBlocks_ = 0;   // read one after the other
+  bool fromTable_ = false;  // block_ was read in one pass over the table
   long long stamp_ = -1;
 };

@@ -68,8 +68,15 @@ QString FurtherTextFor(int number)
 
 int NumberFor(int code)
 {
-  if (code == SQLITE_CONSTRAINT_NOTNULL) {
-    return kNullNotAllowed;
+  switch (code) {
+    case SQLITE_CONSTRAINT_NOTNULL:
+      return kNullNotAllowed;
+    case SQLITE_CONSTRAINT_UNIQUE:
+    case SQLITE_CONSTRAINT_PRIMARYKEY:
+    case SQLITE_CONSTRAINT_ROWID:
+      return kDuplicate;
+    default:
+      break;
   }
   switch (code & 0xff) {
     case SQLITE_BUSY:
@@ -84,8 +91,6 @@ int NumberFor(int code)
     case SQLITE_CORRUPT:
     case SQLITE_NOTADB:
       return kNotADatabase;
-    case SQLITE_CONSTRAINT:
-      return kDuplicate;
     default:
       return kDiskError;
   }

@@ -71,6 +71,7 @@ public:
   }
   void OpenPage(const QString& /*name*/) override {}
   [[nodiscard]] bool TimerEnabled() const override { return false; }
+  void AllowDatabaseCare(bool /*allowed*/) override {}
   void SetTimerEnabled(bool /*enabled*/) override {}
 
   QStringList placed;
@@ -130,17 +131,6 @@ public:
   int abandoned = 0;
 };
 
-int InkInColumns(const QImage& image, const QColor& ink, int from, int to)
-{
-  int count = 0;
-  for (int x = from; x < to; ++x) {
-    for (int y = 0; y < image.height(); ++y) {
-      count += image.pixelColor(x, y) == ink ? 1 : 0;
-    }
-  }
-  return count;
-}
-
 }
 
 TEST_F(FormTest, NameIsTheObjectName)
@@ -171,31 +161,6 @@ TEST_F(FormTest, BackColourIsWhiteAtFirstAndPainted)
   for (const QPoint& corner : {QPoint(0, 0), QPoint(399, 0), QPoint(200, 100), QPoint(0, 199), QPoint(399, 199)}) {
     EXPECT_EQ(painted.pixelColor(corner), beige);
   }
-}
-
-TEST_F(FormTest, PictureStandsOnTheRightThird)
-{
-  Page& page = Window([](Page& form) { form.resize(600, 300); });
-  QPixmap picture(400, 400);
-  picture.fill(Qt::red);
-  page.SetPicture(picture);
-  EXPECT_EQ(page.Picture().size(), QSize(400, 400));
-  const QImage painted = page.grab().toImage();
-  EXPECT_EQ(InkInColumns(painted, Qt::red, 0, 400), 0);
-  EXPECT_GT(InkInColumns(painted, Qt::red, 400, 600), 150 * 150);
-  EXPECT_EQ(painted.pixelColor(500, 5), QColor(Qt::white));
-}
-
-TEST_F(FormTest, EmptyPictureLeavesTheBackColour)
-{
-  Page& page = Window();
-  QPixmap picture(40, 40);
-  picture.fill(Qt::red);
-  page.SetPicture(picture);
-  ASSERT_GT(InkInColumns(page.grab().toImage(), Qt::red, 0, 400), 0);
-  page.SetPicture({});
-  EXPECT_TRUE(page.Picture().isNull());
-  EXPECT_EQ(InkInColumns(page.grab().toImage(), Qt::red, 0, 400), 0);
 }
 
 TEST_F(FormTest, ControlsStandInTheOrderOfTheDesign)

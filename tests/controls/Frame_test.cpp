@@ -17,6 +17,7 @@ public:
   void PlacePage(Form& /*page*/) override {}
   void OpenPage(const QString& /*name*/) override {}
   [[nodiscard]] bool TimerEnabled() const override { return false; }
+  void AllowDatabaseCare(bool /*allowed*/) override {}
   void SetTimerEnabled(bool /*enabled*/) override {}
 };
 

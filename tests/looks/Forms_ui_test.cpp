@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Quillmark authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
+#include "FormDesign.h"
+
 #include "controls/Label.h"
 #include "looks/Style.h"
 
@@ -10,10 +12,10 @@
 #include <QCheckBox>
 #include <QDirIterator>
 #include <QFontMetrics>
+#include <QGroupBox>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QRegularExpression>
-#include <QXmlStreamReader>
 
 #include <memory>
 #include <set>
@@ -21,104 +23,6 @@
 namespace {
 
 constexpr int kCommandInset = 8;
-
-// What a .ui file says of one widget.
-struct Widget
-{
-  QString kind;
-  QString name;
-  QRect place;
-  bool hasPlace = false;
-  QMap<QString, QString> properties;
-  std::vector<std::unique_ptr<Widget>> children;
-
-  [[nodiscard]] QString Property(const char* property) const { return properties.value(QString::fromLatin1(property)); }
-  [[nodiscard]] bool IsCommand() const { return Property("role") == QStringLiteral("command"); }
-};
-
-// What a .ui file says of a form.
-struct Design
-{
-  std::unique_ptr<Widget> form;
-  QStringList actions;
-  QStringList tabStops;
-};
-
-class Reader
-{
-public:
-  explicit Reader(const QByteArray& ui) : xml_(ui) {}
-
-  Design Read()
-  {
-    Design design;
-    while (!xml_.atEnd()) {
-      xml_.readNext();
-      if (Starts("widget")) {
-        design.form = ReadWidget(design.actions);
-      } else if (Starts("tabstop")) {
-        design.tabStops.append(xml_.readElementText());
-      }
-    }
-    if (xml_.hasError()) {
-      throw std::runtime_error(xml_.errorString().toStdString());
-    }
-    return design;
-  }
-
-private:
-  [[nodiscard]] bool Starts(const char* element) const
-  {
-    return xml_.isStartElement() && xml_.name() == QLatin1String(element);
-  }
-  [[nodiscard]] bool Ends(const char* element) const
-  {
-    return xml_.isEndElement() && xml_.name() == QLatin1String(element);
-  }
-  [[nodiscard]] QString Attribute(const char* name) const
-  {
-    return xml_.attributes().value(QLatin1String(name)).toString();
-  }
-
-  std::unique_ptr<Widget> ReadWidget(QStringList& actions)
-  {
-    auto widget = std::make_unique<Widget>();
-    widget->kind = Attribute("class");
-    widget->name = Attribute("name");
-    while (!xml_.atEnd() && xml_.readNext() != QXmlStreamReader::Invalid && !Ends("widget")) {
-      if (Starts("widget")) {
-        widget->children.push_back(ReadWidget(actions));
-      } else if (Starts("action")) {
-        actions.append(Attribute("name"));
-        xml_.skipCurrentElement();
-      } else if (Starts("property")) {
-        ReadProperty(*widget);
-      }
-    }
-    return widget;
-  }
-
-  void ReadProperty(Widget& widget)
-  {
-    const QString name = Attribute("name");
-    if (name != QStringLiteral("geometry")) {
-      widget.properties[name] = xml_.readElementText(QXmlStreamReader::IncludeChildElements);
-      return;
-    }
-    widget.hasPlace = true;
-    QMap<QString, int> numbers;
-    while (!xml_.atEnd() && xml_.readNext() != QXmlStreamReader::Invalid && !Ends("property")) {
-      if (xml_.isStartElement() && xml_.name() != QLatin1String("rect")) {
-        const QString side = xml_.name().toString();
-        numbers[side] = xml_.readElementText().toInt();
-      }
-    }
-    widget.place = QRect(numbers[QStringLiteral("x")], numbers[QStringLiteral("y")], numbers[QStringLiteral("width")],
-                         numbers[QStringLiteral("height")]);
-  }
-
-  QXmlStreamReader xml_;
-};
 
 // Controls that stand outside the window until it grows.
 const std::set<QString> kMayStandOutside = {
@@ -132,6 +36,8 @@ const std::multimap<QString, QString> kLaterTexts = {
      QStringLiteral("You've chosen to be notified of all calendar events occurring within the next 30 days:")},
     {QStringLiteral("frmTextNotice.lblNotice"),
      QStringLiteral("Reminders are not active. Go to the Reminders Set-up page to format reminders.")},
+    {QStringLiteral("frmNew.lblValues"), QStringLiteral(" 100000 of 100000 people")},
+    {QStringLiteral("frmNew.lblCompleteAnn"), QStringLiteral("September 30 2026")},
 };
 
 bool PlacesItself(const Widget& widget)
@@ -158,11 +64,12 @@ bool IsDefaultName(const QString& name, const QString& kind)
 bool TakesFocus(const Widget& widget)
 {
   static const std::set<QString> kinds = {
-      QStringLiteral("ListBox"),   QStringLiteral("ComboBox"),       QStringLiteral("QLineEdit"),
-      QStringLiteral("QTextEdit"), QStringLiteral("QPlainTextEdit"), QStringLiteral("QCheckBox"),
-      QStringLiteral("QSpinBox"),  QStringLiteral("QRadioButton"),   QStringLiteral("QPushButton"),
-      QStringLiteral("QListView"), QStringLiteral("QToolButton"),    QStringLiteral("QTextBrowser"),
-      QStringLiteral("QComboBox"), QStringLiteral("QTableView"),
+      QStringLiteral("ListBox"),          QStringLiteral("ComboBox"),       QStringLiteral("QLineEdit"),
+      QStringLiteral("QTextEdit"),        QStringLiteral("QPlainTextEdit"), QStringLiteral("QCheckBox"),
+      QStringLiteral("QSpinBox"),         QStringLiteral("QRadioButton"),   QStringLiteral("QPushButton"),
+      QStringLiteral("QListView"),        QStringLiteral("QToolButton"),    QStringLiteral("QTextBrowser"),
+      QStringLiteral("QComboBox"),        QStringLiteral("QTableView"),     QStringLiteral("TextBox"),
+      QStringLiteral("MultiLineTextBox"),
   };
   if (widget.Property("focusPolicy") == QStringLiteral("Qt::NoFocus")) {
     return false;
@@ -174,7 +81,7 @@ bool TakesFocus(const Widget& widget)
 class Inspector
 {
 public:
-  explicit Inspector(const QByteArray& ui) : design_(Reader(ui).Read()) {}
+  explicit Inspector(const QByteArray& ui) : design_(DesignReader(ui).Read()) {}
 
   QStringList Faults()
   {
@@ -247,7 +154,7 @@ private:
 
   void LookAtTexts(const Widget& widget)
   {
-    QStringList texts = {widget.Property("text")};
+    QStringList texts = {widget.Property("text"), widget.Property("title")};
     const auto [first, last] = kLaterTexts.equal_range(FullName(widget));
     for (auto later = first; later != last; ++later) {
       texts.append(later->second);
@@ -273,7 +180,20 @@ private:
     if (widget.kind == QStringLiteral("QPushButton")) {
       return FitsButton<QPushButton>(widget, text);
     }
+    if (widget.kind == QStringLiteral("QGroupBox")) {
+      return FitsGroupBox(widget, text);
+    }
     return true;
+  }
+
+  static bool FitsGroupBox(const Widget& widget, const QString& title)
+  {
+    QGroupBox box;
+    box.setProperty("role", widget.Property("role"));
+    box.setTitle(title);
+    box.ensurePolished();
+    const QSize needed = box.minimumSizeHint();
+    return needed.width() <= widget.place.width() && needed.height() <= widget.place.height();
   }
 
   static bool FitsLabel(const Widget& widget, const QString& text)
@@ -340,6 +260,10 @@ protected:
   {
     return QByteArray("<property name=\"text\"><string>") + text + "</string></property>";
   }
+  static QByteArray Title(const char* title)
+  {
+    return QByteArray("<property name=\"title\"><string>") + title + "</string></property>";
+  }
   static QByteArray Role(const char* role)
   {
     return QByteArray("<property name=\"role\" stdset=\"0\"><string>") + role + "</string></property>";
@@ -369,7 +293,7 @@ TEST_F(FormsUiTest, FormIsNamedAsItsFile)
   while (files.hasNext()) {
     QFile file(files.next());
     ASSERT_TRUE(file.open(QIODevice::ReadOnly)) << file.fileName().toStdString();
-    EXPECT_EQ(Reader(file.readAll()).Read().form->name, QFileInfo(file.fileName()).completeBaseName());
+    EXPECT_EQ(DesignReader(file.readAll()).Read().form->name, QFileInfo(file.fileName()).completeBaseName());
   }
 }
 
@@ -412,6 +336,12 @@ TEST_F(FormsUiTest, FaultsAreFound)
        "lblTitle is too small for its caption"},
       {Make("QCheckBox", "chkNotes", place + Text("A caption that is far too long")), "<tabstop>chkNotes</tabstop>",
        "chkNotes is too small for its caption"},
+      {Make("QGroupBox", "fraGender", place + Title("Gender")), {}, ""},
+      {Make("QGroupBox", "fraGender", place + Title("A title that is far too long for its box")),
+       {},
+       "fraGender is too small for its caption"},
+      {Make("TextBox", "txtFirst", place), {}, "txtFirst is not in the tab order"},
+      {Make("MultiLineTextBox", "txtNotes", place), {}, "txtNotes is not in the tab order"},
       {"<action name=\"action_2\"></action>", {}, "action_2 has a name that nobody chose"},
       {Make("QStackedWidget", "pages", {}), {}, ""},
   };

@@ -61,6 +61,7 @@ public:
   }
   void OpenPage(const QString& /*name*/) override {}
   [[nodiscard]] bool TimerEnabled() const override { return false; }
+  void AllowDatabaseCare(bool /*allowed*/) override {}
   void SetTimerEnabled(bool /*enabled*/) override {}
 
   QWidget window;

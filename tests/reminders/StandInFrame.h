@@ -19,6 +19,7 @@ public:
   void PlacePage(Form&) override {}
   void OpenPage(const QString&) override {}
   [[nodiscard]] bool TimerEnabled() const override { return timer; }
+  void AllowDatabaseCare(bool /*allowed*/) override {}
   void SetTimerEnabled(bool enabled) override { timer = enabled; }
 
   WindowState state = WindowState::kNormal;

@@ -1,0 +1,57 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "controls/GroupBox.h"
+
+#include <QPainter>
+
+namespace {
+
+constexpr int kShadow = 4;  // pixels that the shadow takes at the right and below
+constexpr int kCornerRadius = 6;
+const QColor kLine(0xE9, 0xD9, 0xBC);
+const QColor kShade(0x5A, 0x33, 0x10, 0x0C);
+
+}
+
+void GroupBox::SetBackColor(const QColor& color)
+{
+  backColor_ = color;
+  update();
+}
+
+void GroupBox::SetRole(const QString& role)
+{
+  role_ = role;
+}
+
+bool GroupBox::IsPanel() const
+{
+  return role_ == QLatin1String("panel");
+}
+
+void GroupBox::PaintCard(QPainter& painter) const
+{
+  const QRectF card = QRectF(rect()).adjusted(0.5, 0.5, -kShadow - 0.5, -kShadow - 0.5);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(kShade);
+  for (int step = kShadow; step > 0; --step) {
+    painter.drawRoundedRect(card.adjusted(step - 1, step - 1, step - 1, step - 1), kCornerRadius, kCornerRadius);
+  }
+  painter.setPen(kLine);
+  painter.setBrush(backColor_);
+  painter.drawRoundedRect(card, kCornerRadius, kCornerRadius);
+}
+
+void GroupBox::paintEvent(QPaintEvent* event)
+{
+  QPainter painter(this);
+  if (IsPanel()) {
+    PaintCard(painter);
+  } else if (backColor_.isValid()) {
+    painter.fillRect(rect(), backColor_);
+  }
+  painter.end();
+  QGroupBox::paintEvent(event);
+}

@@ -1,0 +1,21 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "platform/InputBox.h"
+
+#include "platform/App.h"
+#include "platform/Command.h"
+
+#include <QApplication>
+#include <QIcon>
+#include <QInputDialog>
+
+QString InputBox(const QString& prompt, const QString& title)
+{
+  const Command::Pause pause;
+  QInputDialog box(QApplication::activeWindow());
+  box.setWindowTitle(title);
+  box.setWindowIcon(QIcon(App::File(QStringLiteral("/animp.ico"))));
+  box.setLabelText(prompt);
+  return box.exec() == QDialog::Accepted ? box.textValue() : QString();
+}
