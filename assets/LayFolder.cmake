@@ -3,7 +3,7 @@
 
 # Lays a program's folder: FOLDER from the PROGRAM, what was MADE and the ASSETS. The
 # household's own files (database, pictures, texts) are laid only where they are missing;
-# a new database is filled with the HOUSEHOLD, if one is given.
+# a new database is filled with the HOUSEHOLD, if one is given, and its pictures are laid too.
 
 function(lay_if_missing source target)
   if(NOT EXISTS "${FOLDER}/${target}")
@@ -39,3 +39,9 @@ file(GLOB pictures RELATIVE "${MADE}" "${MADE}/themes/*.jpg")
 foreach(picture ${pictures})
   lay_if_missing("${MADE}/${picture}" "${picture}")
 endforeach()
+if(HOUSEHOLD)
+  file(GLOB pictures RELATIVE "${MADE}/sample" "${MADE}/sample/PeoplePics/*.bmp" "${MADE}/sample/AnnPics/*.bmp")
+  foreach(picture ${pictures})
+    lay_if_missing("${MADE}/sample/${picture}" "${picture}")
+  endforeach()
+endif()

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Quillmark authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// Draws one SVG at a given size: RenderPicture in.svg out.jpg|out.png width height
-// A .jpg stands on pure white; a .png keeps its transparency.
+// Draws one SVG at a given size: RenderPicture in.svg out.jpg|out.bmp|out.png width height
+// A .jpg or a .bmp stands on pure white; a .png keeps its transparency.
 
 #include <QGuiApplication>
 #include <QImage>
@@ -17,7 +17,7 @@ int main(int argc, char** argv)
   const QGuiApplication application(argc, argv);
   const QStringList arguments = QGuiApplication::arguments();
   if (arguments.size() != 5) {
-    std::fprintf(stderr, "usage: RenderPicture in.svg out.jpg|out.png width height\n");
+    std::fprintf(stderr, "usage: RenderPicture in.svg out.jpg|out.bmp|out.png width height\n");
     return 2;
   }
   QSvgRenderer renderer(arguments[1]);
@@ -27,7 +27,7 @@ int main(int argc, char** argv)
     return 1;
   }
   QImage image(size, QImage::Format_ARGB32_Premultiplied);
-  image.fill(arguments[2].endsWith(QLatin1String(".jpg")) ? Qt::white : Qt::transparent);
+  image.fill(arguments[2].endsWith(QLatin1String(".png")) ? Qt::transparent : Qt::white);
   QPainter painter(&image);
   renderer.render(&painter);
   painter.end();
