@@ -4,6 +4,7 @@
 #include "shell/StartUp.h"
 
 #include "controls/Forms.h"
+#include "people/frmNew.h"
 #include "reminders/frmTextNotice.h"
 #include "shell/frmIntro.h"
 #include "shell/mdiQuillmark.h"
@@ -11,6 +12,7 @@
 void RegisterForms()
 {
   Forms::Register(QStringLiteral("frmIntro"), [] { return new frmIntro; });
+  Forms::Register(QStringLiteral("frmNew"), [] { return new frmNew; });
   Forms::Register(QStringLiteral("frmTextNotice"), [] { return new frmTextNotice; });
 }
 

@@ -18,7 +18,9 @@ const QMap<QString, QStringList> kMayInclude = {
     {"controls", {"platform"}},
     {"looks", {"platform", "store", "controls"}},
     {"reminders", {"platform", "store", "controls", "looks"}},
-    {"shell", {"platform", "store", "controls", "looks", "reminders"}},
+    {"charts", {"platform", "store", "controls", "looks"}},
+    {"people", {"platform", "store", "controls", "looks", "charts"}},
+    {"shell", {"platform", "store", "controls", "looks", "reminders", "charts", "people"}},
 };
 
 QStringList SourceFiles(const QStringList& patterns)
