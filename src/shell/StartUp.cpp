@@ -3,6 +3,7 @@
 
 #include "shell/StartUp.h"
 
+#include "anniversaries/frmAnn.h"
 #include "controls/Forms.h"
 #include "people/frmNew.h"
 #include "reminders/frmTextNotice.h"
@@ -12,6 +13,7 @@
 void RegisterForms()
 {
   Forms::Register(QStringLiteral("frmIntro"), [] { return new frmIntro; });
+  Forms::Register(QStringLiteral("frmAnn"), [] { return new frmAnn; });
   Forms::Register(QStringLiteral("frmNew"), [] { return new frmNew; });
   Forms::Register(QStringLiteral("frmTextNotice"), [] { return new frmTextNotice; });
 }

@@ -20,7 +20,8 @@ const QMap<QString, QStringList> kMayInclude = {
     {"reminders", {"platform", "store", "controls", "looks"}},
     {"charts", {"platform", "store", "controls", "looks"}},
     {"people", {"platform", "store", "controls", "looks", "charts"}},
-    {"shell", {"platform", "store", "controls", "looks", "reminders", "charts", "people"}},
+    {"anniversaries", {"platform", "store", "controls", "looks", "charts", "people"}},
+    {"shell", {"platform", "store", "controls", "looks", "reminders", "charts", "people", "anniversaries"}},
 };
 
 QStringList SourceFiles(const QStringList& patterns)
