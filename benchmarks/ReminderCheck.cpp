@@ -5,6 +5,7 @@
 // columns read by bare SQLite calls in no order. At most 2.0.
 
 #include "Household.h"
+#include "Measure.h"
 
 #include "platform/App.h"
 #include "platform/Application.h"
@@ -14,18 +15,9 @@
 #include <QTemporaryDir>
 
 #include <benchmark/benchmark.h>
-#include <chrono>
 #include <sqlite3.h>
 
 namespace {
-
-template <typename Work>
-double SecondsFor(Work&& work)
-{
-  const auto start = std::chrono::steady_clock::now();
-  work();
-  return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
-}
 
 void ReadBare(const QString& path)
 {
