@@ -163,7 +163,7 @@ CoupleRecords::Outcome CoupleRecords::Write(int wifeID, int husbandID, const Par
     CopyDate(*wife, wedding);
     CopyDate(*husband, wedding);
     ClearStaleDates();
-    ConvertBlanks();
+    Couples::ConvertBlanks(database_);
     Command::Settle();
   } catch (const RuntimeError& error) {
     Attempt([this] { couples_->CancelUpdate(); });
@@ -215,21 +215,6 @@ void CoupleRecords::ClearStaleDates()
   }
 }
 
-void CoupleRecords::ConvertBlanks()
-{
-  const auto dates = database_.OpenRecordset(Queries::kCoupleDates, Database::kDynaset);
-  for (; !dates->Eof(); dates->MoveNext()) {
-    for (const char* column : kDateColumns) {
-      const QVariant value = dates->Fields(QLatin1String(column)).Value();
-      if (!value.isNull() && value.toString().isEmpty()) {
-        dates->Edit();
-        dates->Fields(QLatin1String(column)).SetValue(QVariant());
-        dates->Update();
-      }
-    }
-  }
-}
-
 bool CoupleRecords::Delete(int annID)
 {
   const bool deleted = Attempt([&] {
@@ -240,7 +225,7 @@ bool CoupleRecords::Delete(int annID)
     const auto people = OpenTable("People");
     Couples::ForgetWedding(*people, wifeID);
     Couples::ForgetWedding(*people, husbandID);
-    ConvertBlanks();
+    Couples::ConvertBlanks(database_);
     Command::Settle();
   });
   if (!deleted) {

@@ -74,7 +74,6 @@ private:
   void WriteCouple(Recordset& wife, Recordset& husband, const PartialDate& wedding);
   void SetColumns(Recordset& wife, Recordset& husband, const PartialDate& wedding);
   void ClearStaleDates();
-  void ConvertBlanks();
 
   Database database_;
   std::unique_ptr<Recordset> couples_;

@@ -3,10 +3,15 @@
 
 #include "people/Couples.h"
 
+#include "store/Queries.h"
+
 #include <algorithm>
+#include <array>
 
 namespace Couples {
 namespace {
+
+constexpr std::array<const char*, 3> kDateColumns = {"AnnMonth", "AnnDate", "AnnYear"};
 
 int KeyIn(Recordset& couples, const char* column)
 {
@@ -61,10 +66,26 @@ void ForgetWedding(Recordset& people, int personID)
     return;
   }
   people.Edit();
-  for (const char* column : {"AnnMonth", "AnnDate", "AnnYear"}) {
+  for (const char* column : kDateColumns) {
     people.Fields(QLatin1String(column)).SetValue(QVariant());
   }
   people.Update();
+}
+
+void ConvertBlanks(Database& database)
+{
+  const auto dates = database.OpenRecordset(Queries::kCoupleDates, Database::kDynaset);
+  for (; !dates->Eof(); dates->MoveNext()) {
+    for (const char* column : kDateColumns) {
+      Field& part = dates->Fields(QLatin1String(column));
+      const QVariant value = part.Value();
+      if (!value.isNull() && value.toString().isEmpty()) {
+        dates->Edit();
+        part.SetValue(QVariant());
+        dates->Update();
+      }
+    }
+  }
 }
 
 }

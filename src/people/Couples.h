@@ -32,4 +32,7 @@ void CopyName(Recordset& couples, int personID, const QVariant& firstName, const
 // Makes the wedding date of one person Null; `people` is a table cursor on "People".
 void ForgetWedding(Recordset& people, int personID);
 
+// Makes Null every part of a couple's wedding date that is an empty text.
+void ConvertBlanks(Database& database);
+
 }
