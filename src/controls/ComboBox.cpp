@@ -174,9 +174,7 @@ bool ComboBox::Passes(const QKeyEvent& event) const
 
 void ComboBox::keyPressEvent(QKeyEvent* event)
 {
-  if (typing_ == Listed && !locked_) {
-    QComboBox::keyPressEvent(event);
-  } else if (Passes(*event)) {
+  if ((typing_ == Listed && !locked_) || Passes(*event)) {
     QComboBox::keyPressEvent(event);
   } else if (event->text().isEmpty() || event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter ||
              event->key() == Qt::Key_Escape) {

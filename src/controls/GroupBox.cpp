@@ -40,7 +40,7 @@ void GroupBox::PaintCard(QPainter& painter) const
     painter.drawRoundedRect(card.adjusted(step - 1, step - 1, step - 1, step - 1), kCornerRadius, kCornerRadius);
   }
   painter.setPen(kLine);
-  painter.setBrush(backColor_);
+  painter.setBrush(backColor_.isValid() ? backColor_ : QColor(Qt::white));
   painter.drawRoundedRect(card, kCornerRadius, kCornerRadius);
 }
 

@@ -17,7 +17,7 @@ class GroupBox : public QGroupBox
 public:
   using QGroupBox::QGroupBox;
 
-  // Invalid, and not painted, unless one was set.
+  // Invalid unless one was set: then a card is white, and other boxes are not painted.
   [[nodiscard]] QColor BackColor() const { return backColor_; }
   void SetBackColor(const QColor& color);
   [[nodiscard]] QString Role() const { return role_; }

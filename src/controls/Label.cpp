@@ -68,7 +68,7 @@ void Label::SetRole(const QString& role)
 
 bool Label::IsCommand() const
 {
-  return role_ == QLatin1String("command");
+  return role_ == QLatin1String("command") || role_ == QLatin1String("month");
 }
 
 void Label::mousePressEvent(QMouseEvent* event)
@@ -127,7 +127,7 @@ void Label::paintEvent(QPaintEvent*)
 
 void Label::PaintText(QPainter& painter) const
 {
-  const int inset = IsCommand() ? 8 : 0;
+  const int inset = role_ == QLatin1String("command") ? 8 : 0;
   const int flags = static_cast<int>(alignment()) | (wordWrap() ? Qt::TextWordWrap : Qt::TextSingleLine);
   QPalette colors = palette();
   colors.setColor(QPalette::Active, QPalette::WindowText, ForeColor());
