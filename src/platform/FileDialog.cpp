@@ -22,7 +22,7 @@ QString Ask(QFileDialog& dialog, QString& folder)
   if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
     RaiseError(ErrorNumber::kCancelled);
   }
-  const QString chosen = dialog.selectedFiles().constFirst();
+  QString chosen = dialog.selectedFiles().constFirst();
   folder = QFileInfo(chosen).absolutePath();
   return chosen;
 }

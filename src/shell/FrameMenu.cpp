@@ -124,6 +124,7 @@ void FrameMenu::mnuLists_Click(int index)
     modThemes::SetCalendarHasPicture(true);
     Forms::Load(QStringLiteral("frmPrintCal")).ShowModal();
   } else if (QWidget* panel = Forms::Load(page).Control(QStringLiteral("fraPrint"))) {
+    panel->raise();
     panel->show();
   }
 }

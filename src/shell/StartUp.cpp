@@ -5,6 +5,7 @@
 
 #include "anniversaries/frmAnn.h"
 #include "controls/Forms.h"
+#include "occasions/frmSpecial.h"
 #include "people/frmNew.h"
 #include "reminders/frmTextNotice.h"
 #include "shell/frmIntro.h"
@@ -15,6 +16,7 @@ void RegisterForms()
   Forms::Register(QStringLiteral("frmIntro"), [] { return new frmIntro; });
   Forms::Register(QStringLiteral("frmAnn"), [] { return new frmAnn; });
   Forms::Register(QStringLiteral("frmNew"), [] { return new frmNew; });
+  Forms::Register(QStringLiteral("frmSpecial"), [] { return new frmSpecial; });
   Forms::Register(QStringLiteral("frmTextNotice"), [] { return new frmTextNotice; });
 }
 

@@ -24,7 +24,10 @@ struct Widget
   std::vector<std::unique_ptr<Widget>> children;
 
   [[nodiscard]] QString Property(const char* property) const { return properties.value(QString::fromLatin1(property)); }
-  [[nodiscard]] bool IsCommand() const { return Property("role") == QStringLiteral("command"); }
+  [[nodiscard]] bool IsCommand() const
+  {
+    return Property("role") == QStringLiteral("command") || Property("role") == QStringLiteral("month");
+  }
 };
 
 // What a .ui file says of a form.

@@ -64,12 +64,12 @@ bool IsDefaultName(const QString& name, const QString& kind)
 bool TakesFocus(const Widget& widget)
 {
   static const std::set<QString> kinds = {
-      QStringLiteral("ListBox"),          QStringLiteral("ComboBox"),       QStringLiteral("QLineEdit"),
-      QStringLiteral("QTextEdit"),        QStringLiteral("QPlainTextEdit"), QStringLiteral("QCheckBox"),
-      QStringLiteral("QSpinBox"),         QStringLiteral("QRadioButton"),   QStringLiteral("QPushButton"),
-      QStringLiteral("QListView"),        QStringLiteral("QToolButton"),    QStringLiteral("QTextBrowser"),
-      QStringLiteral("QComboBox"),        QStringLiteral("QTableView"),     QStringLiteral("TextBox"),
-      QStringLiteral("MultiLineTextBox"),
+      QStringLiteral("ListBox"),   QStringLiteral("ComboBox"),         QStringLiteral("QLineEdit"),
+      QStringLiteral("QTextEdit"), QStringLiteral("QPlainTextEdit"),   QStringLiteral("QCheckBox"),
+      QStringLiteral("QSpinBox"),  QStringLiteral("QRadioButton"),     QStringLiteral("QPushButton"),
+      QStringLiteral("QListView"), QStringLiteral("QToolButton"),      QStringLiteral("QTextBrowser"),
+      QStringLiteral("QComboBox"), QStringLiteral("QTableView"),       QStringLiteral("MonthCalendar"),
+      QStringLiteral("TextBox"),   QStringLiteral("MultiLineTextBox"),
   };
   if (widget.Property("focusPolicy") == QStringLiteral("Qt::NoFocus")) {
     return false;

@@ -21,7 +21,9 @@ const QMap<QString, QStringList> kMayInclude = {
     {"charts", {"platform", "store", "controls", "looks"}},
     {"people", {"platform", "store", "controls", "looks", "charts"}},
     {"anniversaries", {"platform", "store", "controls", "looks", "charts", "people"}},
-    {"shell", {"platform", "store", "controls", "looks", "reminders", "charts", "people", "anniversaries"}},
+    {"occasions", {"platform", "store", "controls", "looks", "charts", "people"}},
+    {"shell",
+     {"platform", "store", "controls", "looks", "reminders", "charts", "people", "anniversaries", "occasions"}},
 };
 
 QStringList SourceFiles(const QStringList& patterns)

@@ -1,0 +1,440 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "occasions/frmSpecial.h"
+
+#include "controls/Forms.h"
+#include "controls/Frame.h"
+#include "controls/modID.h"
+#include "looks/modMouseMove.h"
+#include "looks/modResize.h"
+#include "looks/modThemes.h"
+#include "looks/modToolTips.h"
+#include "occasions/FamousBirthdays.h"
+#include "occasions/HandOverList.h"
+#include "people/Couples.h"
+#include "people/DateBoxes.h"
+#include "people/modImages.h"
+#include "platform/App.h"
+#include "platform/Attempt.h"
+#include "platform/Clock.h"
+#include "platform/LoadPicture.h"
+#include "platform/Months.h"
+#include "platform/MsgBox.h"
+#include "platform/Numeric.h"
+#include "platform/Shell.h"
+#include "platform/Twips.h"
+#include "store/DBEngine.h"
+#include "ui_frmSpecial.h"
+
+#include <algorithm>
+
+namespace {
+
+constexpr int kMain = 0;
+constexpr int kViewCalendar = 1;
+constexpr int kExitPrint = 3;
+constexpr int kOpenPrint = 4;
+constexpr int kOpenFamous = 5;
+constexpr int kOpenDatabase = 6;
+constexpr int kExitDatabase = 7;
+constexpr int kConnect = 8;
+constexpr int kExitFamous = 9;
+constexpr int kExitCalendar = 10;
+
+constexpr double kPlainSize = 10;
+constexpr double kRaisedSize = 14;
+const QColor kRaised(192, 0, 0);
+const QColor kMonthText(128, 64, 0);
+
+const QString kNoBirthdays = QStringLiteral("No birthdays this month");
+const QString kNoAnniversaries = QStringLiteral("No anniversaries this month");
+
+// Both sentences left out, with the line break between them.
+const QString kNoSentences = QStringLiteral("\r\n");
+
+// The two states of the shape behind the details.
+constexpr int kPlainShape = 0;
+constexpr int kMarkedShape = 1;
+
+}
+
+frmSpecial::frmSpecial()
+    : Form(QStringLiteral("frmSpecial"), Kind::kPage),
+      ui_([this] {
+        auto ui = std::make_unique<Ui::frmSpecial>();
+        ui->setupUi(this);
+        return ui;
+      }()),
+      birthdays_{*ui_->lstBirthdays, *ui_->txtBirthInfo, *ui_->txtBDetails, *ui_->shpBirth, false, {}},
+      anniversaries_{*ui_->lstAnn, *ui_->txtAnnInfo, *ui_->txtADetails, *ui_->shpAnn, false, {}}
+{
+  lblOptions_.Collect(*this, QStringLiteral("lblOptions"));
+  lblMonth_.Collect(*this, QStringLiteral("lblMonth"));
+  optData_.Collect(*this, QStringLiteral("optData"));
+  for (Side* side : {&birthdays_, &anniversaries_}) {
+    side->info.SetLocked(true);
+    side->details.SetLocked(true);
+  }
+  ConnectControls();
+}
+
+frmSpecial::~frmSpecial() = default;
+
+void frmSpecial::ConnectControls()
+{
+  connect(&lblOptions_, &ControlArraySignals::Click, this, &frmSpecial::lblOptions_Click);
+  connect(&lblMonth_, &ControlArraySignals::Click, this, &frmSpecial::lblMonth_Click);
+  connect(&optData_, &ControlArraySignals::Click, this, &frmSpecial::optData_Click);
+  connect(ui_->cboYear, &ComboBox::Click, this, &frmSpecial::cboYear_Click);
+  connect(ui_->calCalendar, &MonthCalendar::Change, this, &frmSpecial::calCalendar_Change);
+  connect(ui_->lstBirthdays, &ListBox::Click, this, &frmSpecial::lstBirthdays_Click);
+  connect(ui_->lstAnn, &ListBox::Click, this, &frmSpecial::lstAnn_Click);
+}
+
+void frmSpecial::Form_Load()
+{
+  database_ = DBEngine::OpenDatabase();
+  DateBoxes::FillYears(*ui_->cboYear);
+  ui_->calCalendar->SetValue(Clock::Today());
+  Frame::Current().AllowDatabaseCare(false);
+  modResize::InitControlsToResize(*this);
+  ui_->cboYear->SetText(QString::number(ui_->calCalendar->Value().year()));
+  SelectMonth(ui_->calCalendar->Value().month() - 1);
+  Calendar();
+  ThisMonth();
+  AnnMonth();
+  modToolTips::SetTips(*this);
+  modThemes::ApplyTheme();
+  modMouseMove::Watch(*this);
+  new HandOverList(*ui_->lstBirthdays, kNoBirthdays, QStringLiteral("Click on a name for more information"));
+  new HandOverList(*ui_->lstAnn, kNoAnniversaries, QStringLiteral("Click on a couple for more information"));
+}
+
+void frmSpecial::Form_Unload()
+{
+  database_.reset();
+  Frame::Current().AllowDatabaseCare(true);
+}
+
+void frmSpecial::Form_Resize()
+{
+  if (Frame::Current().State() == WindowState::kMinimised) {
+    return;
+  }
+  ui_->picPerson->hide();
+  modResize::ResizeControls(*this);
+  modImages::BoxWidth = TwipsFromPixels(ui_->picPerson->width());
+  modImages::BoxHeight = TwipsFromPixels(ui_->picPerson->height());
+  if (ui_->imgPerson->Handle() != 0) {
+    FitPicture();
+  }
+}
+
+void frmSpecial::Calendar()
+{
+  month_ = kMonthNames[static_cast<std::size_t>(ui_->calCalendar->Value().month() - 1)];
+}
+
+void frmSpecial::ThisMonth()
+{
+  if (month_ == lastBirthdayMonth_) {
+    return;
+  }
+  ui_->picPerson->hide();
+  ui_->imgPerson->SetPicture(LoadPicture());
+  modThemes::ApplyTheme();
+  lastBirthdayMonth_ = month_;
+  ui_->lblBirthdays->setText(month_ + QStringLiteral(" birthdays"));
+  birthdays_.info.SetText(QStringLiteral("Birthday details for..."));
+  QStringList lines;
+  birthdays_.keys.clear();
+  for (const Occasions::Birthday& birthday : Occasions::BirthdaysOf(*database_, month_)) {
+    birthdays_.keys.push_back(birthday.peopleID);
+    lines.append(Occasions::Entry(birthday));
+  }
+  Fill(birthdays_, lines, kNoBirthdays, QStringLiteral("Click on a name (above) for more birthday details"));
+}
+
+void frmSpecial::AnnMonth()
+{
+  if (month_ == lastAnnMonth_) {
+    return;
+  }
+  lastAnnMonth_ = month_;
+  anniversaries_.info.SetText(QStringLiteral("Anniversary details for..."));
+  ui_->lblAnn->setText(month_ + QStringLiteral(" anniversaries"));
+  Couples::ConvertBlanks(*database_);
+  QStringList lines;
+  anniversaries_.keys.clear();
+  for (const Occasions::Anniversary& anniversary : Occasions::AnniversariesOf(*database_, month_)) {
+    anniversaries_.keys.push_back(anniversary.annID);
+    lines.append(Occasions::Entry(anniversary));
+  }
+  Fill(anniversaries_, lines, kNoAnniversaries,
+       QStringLiteral("Click on a couple (above) for more anniversary details"));
+}
+
+void frmSpecial::Fill(Side& side, const QStringList& lines, const QString& none, const QString& hint)
+{
+  side.list.Clear();
+  side.list.AddItems(lines.isEmpty() ? QStringList(none) : lines);
+  side.details.SetText(lines.isEmpty() ? QString() : hint);
+  side.details.setVisible(!lines.isEmpty());
+  side.shape.SetFillStyle(lines.isEmpty() ? kPlainShape : kMarkedShape);
+}
+
+void frmSpecial::SelectMonth(int index)
+{
+  for (const auto& [month, label] : lblMonth_.All()) {
+    label->SetBackStyle(month == index ? Label::kOpaque : Label::kTransparent);
+    label->SetForeColor(month == index ? QColor(Qt::white) : kMonthText);
+  }
+}
+
+void frmSpecial::LowerEmphasis()
+{
+  if (ui_->calCalendar->ActiveDayFontSize() != kRaisedSize) {
+    return;
+  }
+  ui_->calCalendar->SetActiveDayFontSize(kPlainSize);
+  ui_->calCalendar->SetActiveDayForeColor(Qt::black);
+}
+
+void frmSpecial::lblMonth_Click(int index)
+{
+  SelectMonth(index);
+  ui_->calCalendar->SetValue(QDate(ToInteger(ui_->cboYear->Text()), index + 1, 1));
+  LowerEmphasis();
+}
+
+void frmSpecial::cboYear_Click()
+{
+  yearBusy_ = true;
+  ui_->calCalendar->SetValue(QDate(ToInteger(ui_->cboYear->Text()), ui_->calCalendar->Value().month(), 1));
+  yearBusy_ = false;
+}
+
+void frmSpecial::calCalendar_Change()
+{
+  if (calendarBusy_ || !database_) {
+    return;
+  }
+  birthdays_.firstClick = false;
+  anniversaries_.firstClick = false;
+  LowerEmphasis();
+  Calendar();
+  ThisMonth();
+  AnnMonth();
+  if (!yearBusy_) {
+    ui_->cboYear->SetText(QString::number(ui_->calCalendar->Value().year()));
+    SelectMonth(ui_->calCalendar->Value().month() - 1);
+  }
+  if (ui_->lstBirthdays->ListIndex() >= 0) {
+    lstBirthdays_Click();
+  }
+  if (ui_->lstAnn->ListIndex() >= 0) {
+    lstAnn_Click();
+  }
+}
+
+// The rows may have changed since the list was filled; who is gone leaves no sentence.
+void frmSpecial::lstBirthdays_Click()
+{
+  const auto index = static_cast<std::size_t>(ui_->lstBirthdays->ListIndex());
+  const std::vector<Occasions::Birthday> birthdays = Occasions::BirthdaysOf(*database_, month_);
+  if (index >= birthdays_.keys.size() || birthdays.empty()) {
+    return;
+  }
+  const auto found = std::find_if(birthdays.begin(), birthdays.end(), [&](const Occasions::Birthday& birthday) {
+    return birthday.peopleID == birthdays_.keys[index];
+  });
+  if (found == birthdays.end()) {
+    birthdays_.details.SetText(kNoSentences);
+    return;
+  }
+  modID::SelectedPersonID = found->peopleID;
+  ShowPicture(QStringLiteral("/PeoplePics/%1.bmp").arg(found->peopleID));
+  if (found->date.isNull()) {
+    ShowUnknown(birthdays_);
+    return;
+  }
+  ShowDetails(birthdays_, OccasionSentences::Of(*found, ui_->calCalendar->Value().year(), Clock::Today()));
+}
+
+void frmSpecial::lstAnn_Click()
+{
+  const auto index = static_cast<std::size_t>(ui_->lstAnn->ListIndex());
+  const std::vector<Occasions::Anniversary> couples = Occasions::AnniversariesOf(*database_, month_);
+  if (index >= anniversaries_.keys.size() || couples.empty()) {
+    return;
+  }
+  const auto found = std::find_if(couples.begin(), couples.end(), [&](const Occasions::Anniversary& couple) {
+    return couple.annID == anniversaries_.keys[index];
+  });
+  if (found == couples.end()) {
+    anniversaries_.details.SetText(kNoSentences);
+    return;
+  }
+  ShowPicture(QStringLiteral("/AnnPics/%1.bmp").arg(found->annID));
+  if (found->date.isNull()) {
+    ShowUnknown(anniversaries_);
+    return;
+  }
+  modID::CoupleSpouse1ID = found->spouse1ID;
+  modID::CoupleSpouse2ID = found->spouse2ID;
+  ShowDetails(anniversaries_, OccasionSentences::Of(*found, ui_->calCalendar->Value().year(), Clock::Today()));
+}
+
+void frmSpecial::ShowUnknown(Side& side)
+{
+  side.details.SetText(QStringLiteral("No further information available"));
+}
+
+void frmSpecial::ShowDetails(Side& side, const OccasionSentences::Details& details)
+{
+  side.info.SetText(details.caption);
+  MoveCalendar(details);
+  if (!side.firstClick) {
+    side.firstClick = true;
+    side.details.show();
+    side.shape.SetFillStyle(kMarkedShape);
+  }
+  side.details.SetText(details.text);
+}
+
+// A birthday of 29 February is marked nowhere in a common year; the calendar shows the
+// day before its stand-in.
+void frmSpecial::MoveCalendar(const OccasionSentences::Details& details)
+{
+  calendarBusy_ = true;
+  ui_->calCalendar->SetValue(details.shifted ? details.occasion.addDays(-1) : details.occasion);
+  calendarBusy_ = false;
+  if (!details.shifted) {
+    ui_->calCalendar->SetActiveDayFontSize(kRaisedSize);
+    ui_->calCalendar->SetActiveDayForeColor(kRaised);
+  }
+}
+
+void frmSpecial::ShowPicture(const QString& file)
+{
+  ui_->picPerson->resize(PixelsFromTwips(modImages::BoxWidth), PixelsFromTwips(modImages::BoxHeight));
+  ui_->imgPerson->SetPicture(LoadPicture());
+  ui_->picPerson->hide();
+  ui_->imgPerson->hide();
+  Attempt([&] { ui_->imgPerson->SetPicture(LoadPicture(App::File(file))); });
+  if (ui_->imgPerson->Handle() == 0) {
+    modThemes::ApplyTheme();
+    return;
+  }
+  FitPicture();
+}
+
+void frmSpecial::FitPicture()
+{
+  ui_->picThemes->hide();
+  ui_->picThemes->SetPicture(LoadPicture());
+  modImages::FitImage(*ui_->imgPerson);
+  ui_->picPerson->resize(ui_->imgPerson->size());
+  ui_->imgPerson->move(0, 0);
+  ui_->picPerson->show();
+}
+
+void frmSpecial::lblOptions_Click(int index)
+{
+  switch (index) {
+    case kMain:
+      modID::SelectedPersonID = 0;
+      modID::CoupleSpouse1ID = 0;
+      modID::CoupleSpouse2ID = 0;
+      LeaveFor("frmIntro");
+      break;
+    case kViewCalendar:
+      OpenPanel(*ui_->fraCalendar);
+      break;
+    case kExitCalendar:
+      CloseCalendar();
+      break;
+    case kOpenPrint:
+      OpenPanel(*ui_->fraPrint);
+      break;
+    case kExitPrint:
+      ClosePrint();
+      break;
+    case kOpenFamous:
+      OpenFamous();
+      break;
+    case kConnect:
+      Connect();
+      break;
+    case kExitFamous:
+      ui_->fraFamous->hide();
+      break;
+    case kOpenDatabase:
+      OpenPanel(*ui_->fraDatabase);
+      break;
+    case kExitDatabase:
+      ui_->fraDatabase->hide();
+      break;
+    default:
+      break;
+  }
+}
+
+void frmSpecial::OpenPanel(QWidget& panel)
+{
+  panel.raise();
+  panel.show();
+}
+
+void frmSpecial::CloseCalendar()
+{
+  LowerEmphasis();
+  ui_->fraCalendar->hide();
+}
+
+void frmSpecial::ClosePrint()
+{
+  for (QAbstractButton* choice : std::initializer_list<QAbstractButton*>{ui_->optPrint_0, ui_->optPrint_1}) {
+    choice->setAutoExclusive(false);
+    choice->setChecked(false);
+    choice->setAutoExclusive(true);
+  }
+  ui_->chkAgeAnn->setChecked(false);
+  ui_->chkDate->setChecked(false);
+  ui_->fraPrint->hide();
+}
+
+void frmSpecial::OpenFamous()
+{
+  ui_->cboMonth->Clear();
+  ui_->cboDay->Clear();
+  DateBoxes::FillMonths(*ui_->cboMonth);
+  DateBoxes::FillDays(*ui_->cboDay);
+  const QDate today = Clock::Today();
+  ui_->cboMonth->SetText(kMonthNames[static_cast<std::size_t>(today.month() - 1)]);
+  ui_->cboDay->SetText(QString::number(today.day()));
+  OpenPanel(*ui_->fraFamous);
+}
+
+void frmSpecial::Connect()
+{
+  if (MonthNumber(ui_->cboMonth->Text()) == 0) {
+    MsgBox(QStringLiteral("You have not entered a month"));
+  } else if (ui_->cboDay->Text().isEmpty()) {
+    MsgBox(QStringLiteral("You have not entered a day"));
+  } else {
+    Shell::Open(FamousBirthdays::AddressOf(ui_->cboMonth->Text(), ui_->cboDay->Text()));
+  }
+}
+
+void frmSpecial::optData_Click(int index)
+{
+  LeaveFor(index == 0 ? "frmNew" : "frmAnn");
+}
+
+void frmSpecial::LeaveFor(const char* page)
+{
+  Unload();
+  Forms::Load(QLatin1String(page)).Show();
+}
