@@ -194,9 +194,13 @@ void frmSpecial::SelectMonth(int index)
 
 void frmSpecial::LowerEmphasis()
 {
-  if (ui_->calCalendar->ActiveDayFontSize() != kRaisedSize) {
-    return;
+  if (ui_->calCalendar->ActiveDayFontSize() == kRaisedSize) {
+    SetPlainEmphasis();
   }
+}
+
+void frmSpecial::SetPlainEmphasis()
+{
   ui_->calCalendar->SetActiveDayFontSize(kPlainSize);
   ui_->calCalendar->SetActiveDayForeColor(Qt::black);
 }
@@ -389,7 +393,7 @@ void frmSpecial::OpenPanel(QWidget& panel)
 
 void frmSpecial::CloseCalendar()
 {
-  LowerEmphasis();
+  SetPlainEmphasis();
   ui_->fraCalendar->hide();
 }
 

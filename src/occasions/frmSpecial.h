@@ -68,6 +68,7 @@ private:
   void Fill(Side& side, const QStringList& lines, const QString& none, const QString& hint);
   void SelectMonth(int index);
   void LowerEmphasis();
+  void SetPlainEmphasis();
 
   // The details.
   void ShowDetails(Side& side, const OccasionSentences::Details& details);

@@ -164,6 +164,14 @@ TEST_F(SpecialPanels, EachPanelOpensOnTopAndCloses)
   }
 }
 
+TEST_F(SpecialPanels, LeavingTheCalendarMakesTheEmphasisPlainInAnyCase)
+{
+  Open();
+  Click("lblOptions_1");
+  Click("lblOptions_10");
+  EXPECT_EQ(Calendar().ActiveDayFontSize(), 10);
+}
+
 TEST_F(SpecialPanels, APanelOpenedLaterLiesAboveTheOthers)
 {
   Open();
