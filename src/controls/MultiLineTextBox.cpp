@@ -5,6 +5,27 @@
 
 #include "controls/Repolish.h"
 
+#include <QMimeData>
+
+namespace {
+
+constexpr qsizetype kLongestWrapped = 50'000;
+
+bool HasEnormousLine(const QString& text)
+{
+  qsizetype begin = 0;
+  while (text.size() - begin > kLongestWrapped) {
+    const qsizetype end = text.lastIndexOf(QLatin1Char('\n'), begin + kLongestWrapped);
+    if (end < begin) {
+      return true;
+    }
+    begin = end + 1;
+  }
+  return false;
+}
+
+}
+
 MultiLineTextBox::MultiLineTextBox(QWidget* parent) : QPlainTextEdit(parent)
 {
   setTabChangesFocus(true);
@@ -13,7 +34,22 @@ MultiLineTextBox::MultiLineTextBox(QWidget* parent) : QPlainTextEdit(parent)
 void MultiLineTextBox::SetText(const QString& text)
 {
   set_ = text;
+  const bool wraps = !HasEnormousLine(text);
+  if (!wraps) {
+    setLineWrapMode(NoWrap);
+  }
   setPlainText(text);
+  if (wraps) {
+    setLineWrapMode(WidgetWidth);
+  }
+}
+
+void MultiLineTextBox::insertFromMimeData(const QMimeData* source)
+{
+  if (HasEnormousLine(source->text())) {
+    setLineWrapMode(NoWrap);
+  }
+  QPlainTextEdit::insertFromMimeData(source);
 }
 
 // The plain text of the toolkit would turn unbreakable blanks into plain ones.

@@ -7,7 +7,8 @@
 
 #include <QPlainTextEdit>
 
-// A box for text of several lines, wrapped, with a scroll bar where it is needed. Tab leaves it.
+// A box for text of several lines, wrapped, with a scroll bar where it is needed. Tab leaves
+// it. A text with a line of enormous length is not wrapped, which would take minutes.
 class MultiLineTextBox : public QPlainTextEdit, public EntryBox
 {
   Q_OBJECT
@@ -27,6 +28,9 @@ public:
   // Place in the walk over the boxes of a page; -1 for none.
   [[nodiscard]] int TabIndex() const { return tabIndex_; }
   void SetTabIndex(int index) { tabIndex_ = index; }
+
+protected:
+  void insertFromMimeData(const QMimeData* source) override;
 
 private:
   QString set_;

@@ -95,7 +95,6 @@ void Connection::Open(const QString& path)
   }
   Execute("PRAGMA synchronous = FULL");
   Execute("PRAGMA journal_mode = DELETE");
-  Execute("PRAGMA cache_size = -32768");  // kibibytes; rows are read in the order of names
 }
 
 Connection::~Connection()

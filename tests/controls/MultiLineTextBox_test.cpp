@@ -169,3 +169,26 @@ TEST_F(MultiLineTextBoxTest, AnotherRecordsTextIsNotTakenBack)
   QTest::keyClick(&box_, Qt::Key_Z, Qt::ControlModifier);
   EXPECT_EQ(entry_.Text(), QStringLiteral("Bob"));
 }
+
+TEST_F(MultiLineTextBoxTest, AnEnormousLineIsTakenWithoutWrapping)
+{
+  Show();
+  const QString line(1'000'000, QLatin1Char('n'));
+  QApplication::clipboard()->setText(line);
+  box_.paste();
+  EXPECT_EQ(entry_.Text(), line);
+  EXPECT_EQ(box_.lineWrapMode(), QPlainTextEdit::NoWrap);
+  entry_.SetText(QStringLiteral("short"));
+  EXPECT_EQ(box_.lineWrapMode(), QPlainTextEdit::WidgetWidth);
+  entry_.SetText(line);
+  EXPECT_EQ(box_.lineWrapMode(), QPlainTextEdit::NoWrap);
+  entry_.SetText(
+      QString(200'000, QLatin1Char('n')).replace(49'000, 1, QLatin1Char('\n')).replace(98'000, 1, QLatin1Char('\n')));
+  EXPECT_EQ(box_.lineWrapMode(), QPlainTextEdit::NoWrap);
+  QString lines;
+  for (int i = 0; i < 10'000; ++i) {
+    lines += QStringLiteral("a line of the notes\n");
+  }
+  entry_.SetText(lines);
+  EXPECT_EQ(box_.lineWrapMode(), QPlainTextEdit::WidgetWidth);
+}
