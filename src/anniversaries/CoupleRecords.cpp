@@ -22,13 +22,6 @@ const char* KeyColumn(CoupleRecords::Spouse spouse)
   return spouse == CoupleRecords::Spouse::kWife ? "Spouse1ID" : "Spouse2ID";
 }
 
-bool Find(Recordset& table, const char* index, int key)
-{
-  table.SetIndex(QLatin1String(index));
-  table.Seek(QStringLiteral("="), key);
-  return !table.NoMatch();
-}
-
 QVariant TextOrNull(const QString& text)
 {
   return text.isEmpty() ? QVariant() : QVariant(text);
@@ -112,7 +105,7 @@ KeyedLines CoupleRecords::All()
 PartialDate CoupleRecords::WeddingOf(int personID)
 {
   const auto people = OpenTable("People");
-  if (!Find(*people, "PrimaryKey", personID)) {
+  if (!Couples::Find(*people, "PrimaryKey", personID)) {
     return {};
   }
   const auto text = [&](const char* column) { return people->Fields(QLatin1String(column)).Value().toString(); };
@@ -121,7 +114,7 @@ PartialDate CoupleRecords::WeddingOf(int personID)
 
 bool CoupleRecords::GoToCoupleOf(Spouse spouse, int personID)
 {
-  return Find(*couples_, KeyColumn(spouse), personID);
+  return Couples::Find(*couples_, KeyColumn(spouse), personID);
 }
 
 int CoupleRecords::CurrentAnnID() const
@@ -156,7 +149,7 @@ CoupleRecords::Outcome CoupleRecords::Write(int wifeID, int husbandID, const Par
   try {
     const auto wife = OpenTable("People");
     const auto husband = OpenTable("People");
-    if (!Find(*wife, "PrimaryKey", wifeID) || !Find(*husband, "PrimaryKey", husbandID)) {
+    if (!Couples::Find(*wife, "PrimaryKey", wifeID) || !Couples::Find(*husband, "PrimaryKey", husbandID)) {
       return Outcome::kFailed;
     }
     WriteCouple(*wife, *husband, wedding);
@@ -180,7 +173,7 @@ void CoupleRecords::WriteCouple(Recordset& wife, Recordset& husband, const Parti
   const int husbandID = husband.Fields(QStringLiteral("PeopleID")).Value().toInt();
   const std::vector<int> found = CouplesOfEither(wifeID, husbandID);
   for (const int annID : found) {
-    Find(*couples_, "PrimaryKey", annID);
+    Couples::Find(*couples_, "PrimaryKey", annID);
     couples_->Edit();
     SetColumns(wife, husband, wedding);
   }
@@ -208,7 +201,7 @@ void CoupleRecords::ClearStaleDates()
   for (const auto& [gender, spouse] : {std::pair("Female", Spouse::kWife), std::pair("Male", Spouse::kHusband)}) {
     const auto listed = database_.OpenRecordset(Queries::kPartners, Database::kDynaset);
     for (const int person : DatedPeople(*listed, QLatin1String(gender))) {
-      if (!Find(*couples, KeyColumn(spouse), person)) {
+      if (!Couples::Find(*couples, KeyColumn(spouse), person)) {
         Couples::ForgetWedding(*people, person);
       }
     }
@@ -218,7 +211,7 @@ void CoupleRecords::ClearStaleDates()
 bool CoupleRecords::Delete(int annID)
 {
   const bool deleted = Attempt([&] {
-    Find(*couples_, "PrimaryKey", annID);
+    Couples::Find(*couples_, "PrimaryKey", annID);
     const int wifeID = CurrentSpouseID(Spouse::kWife);
     const int husbandID = CurrentSpouseID(Spouse::kHusband);
     couples_->Delete();

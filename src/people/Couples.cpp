@@ -18,13 +18,13 @@ int KeyIn(Recordset& couples, const char* column)
   return couples.Fields(QLatin1String(column)).Value().toInt();
 }
 
+}
+
 bool Find(Recordset& table, const char* index, int key)
 {
   table.SetIndex(QLatin1String(index));
   table.Seek(QStringLiteral("="), key);
   return !table.NoMatch();
-}
-
 }
 
 std::vector<Couple> Of(Recordset& couples, int personID)

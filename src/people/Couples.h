@@ -20,6 +20,9 @@ struct Couple
   [[nodiscard]] int PartnerOf(int personID) const { return spouse1ID == personID ? spouse2ID : spouse1ID; }
 };
 
+// Stands on the row of that key in the index. False if there is none. For any table cursor.
+bool Find(Recordset& table, const char* index, int key);
+
 // In the order of the table. There is one at the most, unless the file was damaged.
 [[nodiscard]] std::vector<Couple> Of(Recordset& couples, int personID);
 

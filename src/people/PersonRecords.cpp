@@ -26,8 +26,7 @@ std::unique_ptr<Recordset> PersonRecords::OpenAddresses()
 std::unique_ptr<Recordset> PersonRecords::Find(int personID)
 {
   auto people = OpenTable("People");
-  people->SetIndex(QStringLiteral("PrimaryKey"));
-  people->Seek(QStringLiteral("="), personID);
+  Couples::Find(*people, "PrimaryKey", personID);
   return people;
 }
 
