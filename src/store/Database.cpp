@@ -17,11 +17,26 @@ Database::~Database() = default;
 Database::Database(Database&&) noexcept = default;
 Database& Database::operator=(Database&&) noexcept = default;
 
-std::unique_ptr<Recordset> Database::OpenRecordset(const QString& source, int kind)
+void Database::MustBeOpen() const
 {
   if (!connection_) {
     StoreError::Raise(StoreError::kClosed);
   }
+}
+
+std::unique_ptr<Recordset> Database::OpenRange(const QString& query, const Range& range)
+{
+  MustBeOpen();
+  const Dialect::Select select = Dialect::ParseSelect(query);
+  const TableSchema& table = connection_->Table(select.table);
+  const QString column = Dialect::Translate({{range.column, false}}, table);
+  const RowCondition within{QStringLiteral("%1 BETWEEN ? AND ?").arg(column), {range.first, range.last}};
+  return std::make_unique<Dynaset>(connection_, select, table, within);
+}
+
+std::unique_ptr<Recordset> Database::OpenRecordset(const QString& source, int kind)
+{
+  MustBeOpen();
   if (kind == kTable) {
     return std::make_unique<TableCursor>(connection_, connection_->Table(source));
   }

@@ -23,8 +23,20 @@ public:
   // A cursor over a table by name (kTable), or over one of the program's queries (kDynaset).
   [[nodiscard]] std::unique_ptr<Recordset> OpenRecordset(const QString& source, int kind);
 
+  // A dynaset over those rows of a query alone whose column lies from `first` to `last`.
+  // Other rows are not read where the column has an index. Throws 3061 for an unknown column.
+  struct Range
+  {
+    QString column;
+    QVariant first;
+    QVariant last;
+  };
+  [[nodiscard]] std::unique_ptr<Recordset> OpenRange(const QString& query, const Range& range);
+
   void Close();
 
 private:
+  void MustBeOpen() const;
+
   std::shared_ptr<Connection> connection_;
 };

@@ -43,7 +43,8 @@ std::vector<ColumnType> TypesOfItems(const Dialect::Select& select, const TableS
 
 }
 
-Dynaset::Dynaset(const std::shared_ptr<Connection>& connection, const Dialect::Select& select, const TableSchema& table)
+Dynaset::Dynaset(const std::shared_ptr<Connection>& connection, const Dialect::Select& select, const TableSchema& table,
+                 RowCondition condition)
     : ListCursor(connection, table,
                  [&] {
                    std::vector<Column> columns;
@@ -54,6 +55,7 @@ Dynaset::Dynaset(const std::shared_ptr<Connection>& connection, const Dialect::S
                    }
                    return columns;
                  }()),
+      condition_(std::move(condition)),
       expressions_(TranslateItems(select, table)),
       reader_(*connection, table, expressions_, TypesOfItems(select, table))
 {
@@ -69,24 +71,25 @@ void Dynaset::ReadOrder(const Dialect::Select& select)
     columns.append(Dialect::Translate(expression, Table()));
     ordering.push_back({TypeOf(expression, Table()), IsPlainColumn(expression)});
   }
-  const QString condition =
-      select.notNull
-          ? QStringLiteral(" WHERE %1 IS NOT NULL").arg(Dialect::Translate({{*select.notNull, false}}, Table()))
-          : QString();
+  if (select.notNull) {
+    condition_.sql +=
+        QStringLiteral(" AND %1 IS NOT NULL").arg(Dialect::Translate({{*select.notNull, false}}, Table()));
+  }
   openedAt_ = ChangeStamp();
-  const QString sql = QStringLiteral("SELECT %1 FROM %2%3 ORDER BY %4")
-                          .arg(columns.join(QLatin1Char(',')), QuoteName(Table().name), condition, key);
+  const QString sql = QStringLiteral("SELECT %1 FROM %2 WHERE %3 ORDER BY %4")
+                          .arg(columns.join(QLatin1Char(',')), QuoteName(Table().name), condition_.sql, key);
   Connection::Order& last = Store().LastOrder();
   const bool keepsValues =
       std::any_of(ordering.begin(), ordering.end(), [](const OrderingColumn& column) { return column.kept; });
-  if (!keepsValues && last.sql == sql && last.stamp == openedAt_) {
+  const bool shared = !keepsValues && condition_.values.empty();
+  if (shared && last.sql == sql && last.stamp == openedAt_) {
     keptFor_.assign(select.items.size(), -1);
     Begin(last.keys);
     return;
   }
-  OrderedKeys ordered = ReadInOrder(Store(), sql, ordering);
+  OrderedKeys ordered = ReadInOrder(Store(), sql, ordering, condition_.values);
   KeepValuesOf(select, ordered);
-  if (!keepsValues) {
+  if (shared) {
     last = {sql, openedAt_, ordered.keys};
   }
   Begin(std::move(ordered.keys));
@@ -147,9 +150,13 @@ void Dynaset::FindFirst(const QString& criteria)
   }
   const QString expression = expressions_[static_cast<std::size_t>(column - Columns().begin())];
   std::unordered_set<qint64> matches;
-  Statement statement(Store(), QStringLiteral("SELECT %1 FROM %2 WHERE (%3) = ? COLLATE TEXTORDER")
-                                   .arg(QuoteName(Table().key), QuoteName(Table().name), expression));
-  statement.Bind(1, criterion.text);
+  Statement statement(Store(), QStringLiteral("SELECT %1 FROM %2 WHERE %3 AND (%4) = ? COLLATE TEXTORDER")
+                                   .arg(QuoteName(Table().key), QuoteName(Table().name), condition_.sql, expression));
+  int parameter = 0;
+  for (const QVariant& value : condition_.values) {
+    statement.Bind(++parameter, value);
+  }
+  statement.Bind(++parameter, criterion.text);
   while (statement.Step()) {
     matches.insert(statement.Integer(0));
   }

@@ -8,13 +8,21 @@
 #include "store/OrderedKeys.h"
 #include "store/RowReader.h"
 
+// What rows must fulfil besides their query, in SQLite's words.
+struct RowCondition
+{
+  QString sql = QStringLiteral("TRUE");
+  std::vector<QVariant> values;
+};
+
 // An updatable cursor over a query. The order of its rows is settled when it is opened;
 // their contents are read live. A row added through it stands at its end, a row that
 // was deleted by whomever vanishes.
 class Dynaset : public ListCursor
 {
 public:
-  Dynaset(const std::shared_ptr<Connection>& connection, const Dialect::Select& select, const TableSchema& table);
+  Dynaset(const std::shared_ptr<Connection>& connection, const Dialect::Select& select, const TableSchema& table,
+          RowCondition condition = {});
 
   void FindFirst(const QString& criteria) override;
 
@@ -27,6 +35,7 @@ private:
   void KeepValuesOf(const Dialect::Select& select, OrderedKeys& ordered);
   [[nodiscard]] bool NothingChanged();
 
+  RowCondition condition_;
   std::vector<QString> expressions_;  // of the columns, in SQLite's words
   RowReader reader_;
   std::vector<OrderedKeys::Kept> kept_;

@@ -225,12 +225,11 @@ std::vector<T> Arranged(const std::vector<T>& items, const std::vector<std::uint
 namespace {
 
 // For one column that need not be kept: its values are mostly different ones, such as names.
-OrderedKeys ReadInOrderOfOne(Connection& connection, const QString& sql)
+OrderedKeys ReadInOrderOfOne(Statement& statement)
 {
   std::vector<qint64> keys;
   std::vector<SortKey> sortKeys;
   TextArena arena;
-  Statement statement(connection, sql);
   while (statement.Step()) {
     keys.push_back(statement.Integer(0));
     sortKeys.push_back(KeyIn(statement, 1, arena));
@@ -245,10 +244,15 @@ OrderedKeys ReadInOrderOfOne(Connection& connection, const QString& sql)
 
 }
 
-OrderedKeys ReadInOrder(Connection& connection, const QString& sql, const std::vector<OrderingColumn>& columns)
+OrderedKeys ReadInOrder(Connection& connection, const QString& sql, const std::vector<OrderingColumn>& columns,
+                        const std::vector<QVariant>& parameters)
 {
+  Statement statement(connection, sql);
+  for (std::size_t i = 0; i < parameters.size(); ++i) {
+    statement.Bind(static_cast<int>(i) + 1, parameters[i]);
+  }
   if (columns.size() == 1 && !columns.front().kept) {
-    return ReadInOrderOfOne(connection, sql);
+    return ReadInOrderOfOne(statement);
   }
   std::vector<qint64> keys;
   std::vector<Values> values;
@@ -257,7 +261,6 @@ OrderedKeys ReadInOrder(Connection& connection, const QString& sql, const std::v
     values.emplace_back(column.type);
   }
   std::vector<std::vector<std::uint32_t>> which(columns.size());
-  Statement statement(connection, sql);
   while (statement.Step()) {
     keys.push_back(statement.Integer(0));
     for (std::size_t column = 0; column < columns.size(); ++column) {

@@ -27,7 +27,7 @@ struct OrderedKeys
   std::vector<Kept> kept;  // one an ordering column
 };
 
-// Runs `sql`, which gives a key and then one for each of `columns`, in the order
+// Runs `sql` with values for its `parameters`, which gives a key and then one for each of `columns`, in the order
 // of keys, and puts the rows into the order of these columns: Null first, then numbers,
 // then texts by TextOrder, equal ones by key.
 // Values are kept of those columns that are `kept`.
@@ -38,4 +38,5 @@ struct OrderingColumn
 };
 
 [[nodiscard]] OrderedKeys ReadInOrder(Connection& connection, const QString& sql,
-                                      const std::vector<OrderingColumn>& columns);
+                                      const std::vector<OrderingColumn>& columns,
+                                      const std::vector<QVariant>& parameters = {});

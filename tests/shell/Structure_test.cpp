@@ -22,8 +22,10 @@ const QMap<QString, QStringList> kMayInclude = {
     {"people", {"platform", "store", "controls", "looks", "charts"}},
     {"anniversaries", {"platform", "store", "controls", "looks", "charts", "people"}},
     {"occasions", {"platform", "store", "controls", "looks", "charts", "people"}},
+    {"calendar", {"platform", "store", "controls", "looks"}},
     {"shell",
-     {"platform", "store", "controls", "looks", "reminders", "charts", "people", "anniversaries", "occasions"}},
+     {"platform", "store", "controls", "looks", "reminders", "charts", "people", "anniversaries", "occasions",
+      "calendar"}},
 };
 
 QStringList SourceFiles(const QStringList& patterns)

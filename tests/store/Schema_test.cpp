@@ -100,6 +100,7 @@ TEST(DeliveredDatabase, HasItsIndexesAndNoOthers)
           {"Ann", "Spouse1ID", "Spouse1ID", 1},
           {"Ann", "Spouse2ID", "Spouse2ID", 1},
           {"People", "BirthMonth", "BirthMonth", 0},
+          {"Reminders", "Date", "Date", 0},
           {"Reminders", "Month", "Month", 0},
       }));
 }
