@@ -10,6 +10,9 @@
 #include <QPainter>
 #include <QStyle>
 
+#include <algorithm>
+#include <array>
+
 namespace {
 
 constexpr int kCornerRadius = 4;
@@ -68,7 +71,8 @@ void Label::SetRole(const QString& role)
 
 bool Label::IsCommand() const
 {
-  return role_ == QLatin1String("command") || role_ == QLatin1String("month");
+  static constexpr std::array kRoles = {"command", "month", "choice", "day"};
+  return std::any_of(kRoles.begin(), kRoles.end(), [this](const char* role) { return role_ == QLatin1String(role); });
 }
 
 void Label::mousePressEvent(QMouseEvent* event)

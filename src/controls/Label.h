@@ -7,8 +7,8 @@
 #include <QLabel>
 
 // A text that can be clicked. Its back colour shows only while its back style is opaque.
-// With the role "command" or "month" it takes the focus and is pressed by Space and Enter,
-// too.
+// With the role "command", "month", "choice" or "day" it takes the focus and is pressed by
+// Space and Enter, too.
 class Label : public QLabel
 {
   Q_OBJECT

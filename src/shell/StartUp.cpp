@@ -4,6 +4,7 @@
 #include "shell/StartUp.h"
 
 #include "anniversaries/frmAnn.h"
+#include "calendar/frmReminders.h"
 #include "controls/Forms.h"
 #include "occasions/frmSpecial.h"
 #include "people/frmNew.h"
@@ -16,6 +17,7 @@ void RegisterForms()
   Forms::Register(QStringLiteral("frmIntro"), [] { return new frmIntro; });
   Forms::Register(QStringLiteral("frmAnn"), [] { return new frmAnn; });
   Forms::Register(QStringLiteral("frmNew"), [] { return new frmNew; });
+  Forms::Register(QStringLiteral("frmReminders"), [] { return new frmReminders; });
   Forms::Register(QStringLiteral("frmSpecial"), [] { return new frmSpecial; });
   Forms::Register(QStringLiteral("frmTextNotice"), [] { return new frmTextNotice; });
 }

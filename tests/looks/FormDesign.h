@@ -26,7 +26,8 @@ struct Widget
   [[nodiscard]] QString Property(const char* property) const { return properties.value(QString::fromLatin1(property)); }
   [[nodiscard]] bool IsCommand() const
   {
-    return Property("role") == QStringLiteral("command") || Property("role") == QStringLiteral("month");
+    const QStringList roles{"command", "month", "choice", "day"};
+    return roles.contains(Property("role"));
   }
 };
 
