@@ -43,19 +43,48 @@ QByteArray InsertPeople(int people)
       .toUtf8();
 }
 
+// 120 in the year, the same for any number of events; the others on every day of the
+// 100 years from the one after next on, over and over.
+QByteArray InsertEvents(int events, int year)
+{
+  return QStringLiteral(
+             "WITH RECURSIVE n(i) AS (SELECT 0 UNION ALL SELECT i+1 FROM n WHERE i+1<%1), "
+             "days(i, day) AS (SELECT i, CASE WHEN i<120 THEN date('%2-01-01', '+' || (i/10) || ' months', "
+             "'+' || (i%10) || ' days') ELSE date('%2-01-01', '+2 years', '+' || (i*7%36525) || ' days') END FROM n), "
+             "names(m, name) AS (VALUES ('01','January'),('02','February'),('03','March'),('04','April'),('05','May'),"
+             "('06','June'),('07','July'),('08','August'),('09','September'),('10','October'),('11','November'),"
+             "('12','December')) "
+             "INSERT INTO Reminders (Month, Date, Event, Time, Notes) SELECT name, day, 'Event ' || (i%1000), "
+             "CASE i%3 WHEN 0 THEN NULL ELSE '10:30:00' END, 'Notes of some length on this very event, number ' || i "
+             "FROM days JOIN names ON m = substr(day, 6, 2) ORDER BY i")
+      .arg(events)
+      .arg(year)
+      .toUtf8();
 }
 
-void MakeHousehold(const QString& path, int people)
+void Make(const QString& path, const QByteArray& rows)
 {
   QFile::remove(path);
   sqlite3* handle = nullptr;
   sqlite3_open(path.toUtf8().constData(), &handle);
-  for (const QByteArray& sql : {SourceFile("schema.sql"), SourceFile("delivered.sql"), InsertPeople(people)}) {
+  for (const QByteArray& sql : {SourceFile("schema.sql"), SourceFile("delivered.sql"), rows}) {
     if (sqlite3_exec(handle, sql.constData(), nullptr, nullptr, nullptr) != SQLITE_OK) {
       throw std::runtime_error(sqlite3_errmsg(handle));
     }
   }
   sqlite3_close(handle);
+}
+
+}
+
+void MakeHousehold(const QString& path, int people)
+{
+  Make(path, InsertPeople(people));
+}
+
+void MakeCalendar(const QString& path, int events, int year)
+{
+  Make(path, InsertEvents(events, year));
 }
 
 double Median(std::vector<double> values)

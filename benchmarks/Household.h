@@ -11,5 +11,9 @@
 // anniversary near today.
 void MakeHousehold(const QString& path, int people);
 
+// The same without people, but with events: so many in all, one a day on the first ten days
+// of each month of `year`, the others in the years before and after.
+void MakeCalendar(const QString& path, int events, int year);
+
 // The middle one of the values.
 [[nodiscard]] double Median(std::vector<double> values);

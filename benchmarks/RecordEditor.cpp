@@ -78,15 +78,6 @@ private:
   Form* form_ = nullptr;
 };
 
-double MedianOf(const std::function<double()>& measure)
-{
-  std::vector<double> seconds;
-  for (int run = 0; run < kRuns; ++run) {
-    seconds.push_back(measure());
-  }
-  return Median(seconds);
-}
-
 // What a list of people needs: names, keys and genders.
 void ReadNames(const QString& path)
 {
@@ -123,14 +114,6 @@ void ScanForName(const QString& path)
   sqlite3_close(handle);
 }
 
-void Report(benchmark::State& state, double measured, double against, double must)
-{
-  state.counters["ms"] = measured * 1000;
-  state.counters["against_ms"] = against * 1000;
-  state.counters["ratio"] = measured / against;
-  state.counters["must"] = must;
-}
-
 void Opening(benchmark::State& state, const char* page)
 {
   Editor editor(kMany, page);
@@ -141,7 +124,7 @@ void Opening(benchmark::State& state, const char* page)
       editor.Close();
       return seconds;
     });
-    Report(state, open, bare, 3.0);
+    ReportRatio(state, open, bare, 3.0);
   }
 }
 
@@ -161,7 +144,7 @@ void Step(benchmark::State& state, const char* button)
 {
   const auto step = [&](Editor& editor) { editor.Push(button); };
   for (auto _ : state) {
-    Report(state, SecondsPerStep(kMany, step), SecondsPerStep(kFew, step), 2.0);
+    ReportRatio(state, SecondsPerStep(kMany, step), SecondsPerStep(kFew, step), 2.0);
   }
 }
 
@@ -183,7 +166,7 @@ void NameList(benchmark::State& state)
       });
       return SecondsFor([&] { Command::Run([&] { list.Refresh(*records.OpenAddresses()); }); });
     });
-    Report(state, rebuilt, bare, 3.0);
+    ReportRatio(state, rebuilt, bare, 3.0);
   }
 }
 
@@ -209,7 +192,7 @@ double SecondsPerWrite(int people, const std::function<void(PersonRecords&, cons
 void Write(benchmark::State& state, void (*write)(PersonRecords&, const RecordBoxes&))
 {
   for (auto _ : state) {
-    Report(state, SecondsPerWrite(kMany, write), SecondsPerWrite(kFew, write), 2.0);
+    ReportRatio(state, SecondsPerWrite(kMany, write), SecondsPerWrite(kFew, write), 2.0);
   }
 }
 
@@ -238,7 +221,7 @@ void Leaving(benchmark::State& state)
       editor.Open();
       return SecondsFor([&] { editor.Close(); });
     });
-    Report(state, leave, bare, std::numeric_limits<double>::infinity());
+    ReportRatio(state, leave, bare, std::numeric_limits<double>::infinity());
   }
 }
 
@@ -250,7 +233,7 @@ void Search(benchmark::State& state)
     const double bare = MedianOf([&] { return SecondsFor([&] { ScanForName(editor.Path()); }); });
     const double found = MedianOf(
         [&] { return SecondsFor([&] { Command::Run([&] { records.FindName(QStringLiteral("nobody, at all")); }); }); });
-    Report(state, found, bare, 2.0);
+    ReportRatio(state, found, bare, 2.0);
   }
 }
 

@@ -44,6 +44,7 @@ std::vector<CalendarEvent> On(Database& database, const QString& month, QDate da
 std::vector<int> IdsOf(const std::vector<CalendarEvent>& events)
 {
   std::vector<int> ids;
+  ids.reserve(events.size());
   for (const CalendarEvent& event : events) {
     ids.push_back(event.id);
   }
