@@ -150,4 +150,10 @@ int WholeYears(QDate event, QDate to)
   return DateSerial(to.year(), event.month(), event.day()) > to ? years - 1 : years;
 }
 
+int YearsSince(const QString& month, const QString& day, const QString& year, QDate today)
+{
+  const YearDay yearDay{month, day};
+  return WholeYears(DateIn(year, yearDay.IsLeapDay() ? FirstOfMarch() : yearDay), today);
+}
+
 }

@@ -31,4 +31,8 @@ struct Details
 // the event lies ahead. 29 February is reached on 1 March in a common year.
 [[nodiscard]] int WholeYears(QDate event, QDate to);
 
+// The whole years since a day of a year, in a year that is past or to come. One that was 29
+// February is reached on 1 March in every year. Throws 13 for a date that is none.
+[[nodiscard]] int YearsSince(const QString& month, const QString& day, const QString& year, QDate today);
+
 }

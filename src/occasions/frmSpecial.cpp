@@ -3,6 +3,7 @@
 
 #include "occasions/frmSpecial.h"
 
+#include "controls/Choices.h"
 #include "controls/Forms.h"
 #include "controls/Frame.h"
 #include "controls/modID.h"
@@ -14,16 +15,11 @@
 #include "occasions/HandOverList.h"
 #include "people/Couples.h"
 #include "people/DateBoxes.h"
-#include "people/modImages.h"
-#include "platform/App.h"
-#include "platform/Attempt.h"
 #include "platform/Clock.h"
-#include "platform/LoadPicture.h"
 #include "platform/Months.h"
 #include "platform/MsgBox.h"
 #include "platform/Numeric.h"
 #include "platform/Shell.h"
-#include "platform/Twips.h"
 #include "store/DBEngine.h"
 #include "ui_frmSpecial.h"
 
@@ -66,6 +62,7 @@ frmSpecial::frmSpecial()
         ui->setupUi(this);
         return ui;
       }()),
+      picture_(*ui_->picPerson, *ui_->imgPerson, *ui_->picThemes),
       birthdays_{*ui_->lstBirthdays, *ui_->txtBirthInfo, *ui_->txtBDetails, *ui_->shpBirth, false, {}},
       anniversaries_{*ui_->lstAnn, *ui_->txtAnnInfo, *ui_->txtADetails, *ui_->shpAnn, false, {}}
 {
@@ -124,11 +121,7 @@ void frmSpecial::Form_Resize()
   }
   ui_->picPerson->hide();
   modResize::ResizeControls(*this);
-  modImages::BoxWidth = TwipsFromPixels(ui_->picPerson->width());
-  modImages::BoxHeight = TwipsFromPixels(ui_->picPerson->height());
-  if (ui_->imgPerson->Handle() != 0) {
-    FitPicture();
-  }
+  picture_.Resized();
 }
 
 void frmSpecial::Calendar()
@@ -141,9 +134,7 @@ void frmSpecial::ThisMonth()
   if (month_ == lastBirthdayMonth_) {
     return;
   }
-  ui_->picPerson->hide();
-  ui_->imgPerson->SetPicture(LoadPicture());
-  modThemes::ApplyTheme();
+  picture_.Clear();
   lastBirthdayMonth_ = month_;
   ui_->lblBirthdays->setText(month_ + QStringLiteral(" birthdays"));
   birthdays_.info.SetText(QStringLiteral("Birthday details for..."));
@@ -258,7 +249,7 @@ void frmSpecial::lstBirthdays_Click()
     return;
   }
   modID::SelectedPersonID = found->peopleID;
-  ShowPicture(QStringLiteral("/PeoplePics/%1.bmp").arg(found->peopleID));
+  picture_.Show(QStringLiteral("/PeoplePics/%1.bmp").arg(found->peopleID));
   if (found->date.isNull()) {
     ShowUnknown(birthdays_);
     return;
@@ -280,7 +271,7 @@ void frmSpecial::lstAnn_Click()
     anniversaries_.details.SetText(kNoSentences);
     return;
   }
-  ShowPicture(QStringLiteral("/AnnPics/%1.bmp").arg(found->annID));
+  picture_.Show(QStringLiteral("/AnnPics/%1.bmp").arg(found->annID));
   if (found->date.isNull()) {
     ShowUnknown(anniversaries_);
     return;
@@ -318,30 +309,6 @@ void frmSpecial::MoveCalendar(const OccasionSentences::Details& details)
     ui_->calCalendar->SetActiveDayFontSize(kRaisedSize);
     ui_->calCalendar->SetActiveDayForeColor(kRaised);
   }
-}
-
-void frmSpecial::ShowPicture(const QString& file)
-{
-  ui_->picPerson->resize(PixelsFromTwips(modImages::BoxWidth), PixelsFromTwips(modImages::BoxHeight));
-  ui_->imgPerson->SetPicture(LoadPicture());
-  ui_->picPerson->hide();
-  ui_->imgPerson->hide();
-  Attempt([&] { ui_->imgPerson->SetPicture(LoadPicture(App::File(file))); });
-  if (ui_->imgPerson->Handle() == 0) {
-    modThemes::ApplyTheme();
-    return;
-  }
-  FitPicture();
-}
-
-void frmSpecial::FitPicture()
-{
-  ui_->picThemes->hide();
-  ui_->picThemes->SetPicture(LoadPicture());
-  modImages::FitImage(*ui_->imgPerson);
-  ui_->picPerson->resize(ui_->imgPerson->size());
-  ui_->imgPerson->move(0, 0);
-  ui_->picPerson->show();
 }
 
 void frmSpecial::lblOptions_Click(int index)
@@ -399,11 +366,7 @@ void frmSpecial::CloseCalendar()
 
 void frmSpecial::ClosePrint()
 {
-  for (QAbstractButton* choice : std::initializer_list<QAbstractButton*>{ui_->optPrint_0, ui_->optPrint_1}) {
-    choice->setAutoExclusive(false);
-    choice->setChecked(false);
-    choice->setAutoExclusive(true);
-  }
+  Choices::Clear({ui_->optPrint_0, ui_->optPrint_1});
   ui_->chkAgeAnn->setChecked(false);
   ui_->chkDate->setChecked(false);
   ui_->fraPrint->hide();

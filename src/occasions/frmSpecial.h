@@ -8,6 +8,7 @@
 #include "controls/Label.h"
 #include "occasions/OccasionSentences.h"
 #include "occasions/Occasions.h"
+#include "people/PagePicture.h"
 #include "store/Database.h"
 
 #include <memory>
@@ -74,8 +75,6 @@ private:
   void ShowDetails(Side& side, const OccasionSentences::Details& details);
   void ShowUnknown(Side& side);
   void MoveCalendar(const OccasionSentences::Details& details);
-  void ShowPicture(const QString& file);
-  void FitPicture();
 
   // The commands.
   void OpenPanel(QWidget& panel);
@@ -90,6 +89,7 @@ private:
   ControlArray<Label> lblMonth_;
   ControlArray<QRadioButton> optData_;
   std::optional<Database> database_;
+  PagePicture picture_;
   Side birthdays_;
   Side anniversaries_;
   QString month_;

@@ -6,6 +6,7 @@
 #include "anniversaries/frmAnn.h"
 #include "calendar/frmReminders.h"
 #include "controls/Forms.h"
+#include "lookup/frmQuillmark.h"
 #include "occasions/frmSpecial.h"
 #include "people/frmNew.h"
 #include "reminders/frmTextNotice.h"
@@ -17,6 +18,7 @@ void RegisterForms()
   Forms::Register(QStringLiteral("frmIntro"), [] { return new frmIntro; });
   Forms::Register(QStringLiteral("frmAnn"), [] { return new frmAnn; });
   Forms::Register(QStringLiteral("frmNew"), [] { return new frmNew; });
+  Forms::Register(QStringLiteral("frmQuillmark"), [] { return new frmQuillmark; });
   Forms::Register(QStringLiteral("frmReminders"), [] { return new frmReminders; });
   Forms::Register(QStringLiteral("frmSpecial"), [] { return new frmSpecial; });
   Forms::Register(QStringLiteral("frmTextNotice"), [] { return new frmTextNotice; });

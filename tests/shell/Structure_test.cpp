@@ -21,6 +21,7 @@ const QMap<QString, QStringList> kMayInclude = {
     {"charts", {"platform", "store", "controls", "looks"}},
     {"people", {"platform", "store", "controls", "looks", "charts"}},
     {"anniversaries", {"platform", "store", "controls", "looks", "charts", "people"}},
+    {"lookup", {"platform", "store", "controls", "looks", "charts", "people"}},
     {"occasions", {"platform", "store", "controls", "looks", "charts", "people"}},
     {"calendar", {"platform", "store", "controls", "looks"}},
     {"shell",

@@ -1,0 +1,90 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include "controls/ControlArray.h"
+#include "controls/Form.h"
+#include "controls/Label.h"
+#include "lookup/PersonResults.h"
+#include "people/PagePicture.h"
+#include "store/Database.h"
+
+#include <QTimer>
+
+#include <memory>
+#include <optional>
+#include <vector>
+
+class QCheckBox;
+class QRadioButton;
+
+namespace Ui {
+class frmQuillmark;
+}
+
+// The page on which people are looked up.
+class frmQuillmark : public Form
+{
+  Q_OBJECT
+
+public:
+  frmQuillmark();
+  ~frmQuillmark() override;
+
+protected:
+  void Form_Load() override;
+  void Form_Unload() override;
+  void Form_Resize() override;
+
+private Q_SLOTS:
+  void lblOptions_Click(int index);
+  void lblNames_Click(int index);
+  void lblAll_Click(int index);
+  void lstNames_Click();
+  void chkInfo_Click();
+  void chkPersonal_Click();
+  void chkNotes_Click();
+  void optData_Click(int index);
+  void tmrTimer_Timer();
+
+private:
+  void ConnectControls();
+
+  // The list.
+  void DAOPeople();
+  void OpenPeople(const QString& query);
+  void FillNames();
+  void ResetSelection();
+  bool GoToSelected();
+  void SetSelected(int personID);
+
+  // The boxes.
+  void FindContact();
+  void FindSpecial();
+  void FindNotes();
+  void TitleChange();
+  [[nodiscard]] QString FirstName();
+
+  // The commands.
+  void OpenPanel(QWidget& panel);
+  void ClosePrint();
+  void CloseLetter();
+  void Clip();
+  void Leave(const char* page);
+
+  std::unique_ptr<Ui::frmQuillmark> ui_;
+  ControlArray<Label> lblOptions_;
+  ControlArray<Label> lblNames_;
+  ControlArray<Label> lblAll_;
+  ControlArray<QRadioButton> optData_;
+  QTimer tmrTimer_;
+  PersonResults results_;
+  PagePicture picture_;
+  std::optional<Database> database_;
+  std::unique_ptr<Recordset> people_;
+  std::vector<int> keys_;  // by line of the list
+  int selectedID_ = 0;
+  int lastOrder_ = 0;
+  int ticks_ = 0;
+};
