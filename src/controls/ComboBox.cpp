@@ -10,10 +10,41 @@
 #include <QLineEdit>
 #include <QListView>
 #include <QMouseEvent>
+#include <QValidator>
 
 namespace {
 
 constexpr int kVisibleLines = 12;  // the months of a year
+
+// Lets pass what some line begins with.
+class BeginningOfALine : public QValidator
+{
+public:
+  BeginningOfALine(const LinesModel& lines, QObject* parent) : QValidator(parent), lines_(lines) {}
+
+  State validate(QString& text, int& /*cursor*/) const override
+  {
+    for (int index = 0; index < lines_.Count(); ++index) {
+      if (lines_.Line(index).startsWith(text)) {
+        return Acceptable;
+      }
+    }
+    return text.isEmpty() ? Acceptable : Invalid;
+  }
+
+private:
+  const LinesModel& lines_;
+};
+
+bool IsMouseButton(QEvent::Type type)
+{
+  return type == QEvent::MouseButtonPress || type == QEvent::MouseButtonRelease || type == QEvent::MouseButtonDblClick;
+}
+
+bool Steps(int key)
+{
+  return key == Qt::Key_Up || key == Qt::Key_Down || key == Qt::Key_PageUp || key == Qt::Key_PageDown;
+}
 
 }
 
@@ -89,6 +120,9 @@ void ComboBox::MakeEditable()
   lineEdit()->setContextMenuPolicy(Qt::NoContextMenu);
   lineEdit()->setAcceptDrops(false);
   lineEdit()->installEventFilter(this);
+  lineEdit()->setValidator(typing_ == TypedLines ? new BeginningOfALine(*lines_, lineEdit()) : nullptr);
+  // The toolkit would choose the line of a typed text when the box is left.
+  disconnect(lineEdit(), &QLineEdit::editingFinished, this, nullptr);
 }
 
 void ComboBox::AddItem(const QString& line)
@@ -119,32 +153,44 @@ void ComboBox::Clear()
   }
 }
 
+// Opening the list and stepping through it begin at the text, however it came.
+void ComboBox::StandOnText()
+{
+  const QString text = currentText();
+  if (typing_ != Listed && text != List(currentIndex())) {
+    const QSignalBlocker quiet(this);
+    SetText(text);
+  }
+}
+
 void ComboBox::showPopup()
 {
   if (!locked_) {
+    StandOnText();
     QComboBox::showPopup();
   }
 }
 
-// A click into the text opens the list, at its release, which would close it again. The
-// other buttons would paste.
+// A click into a text that is not typed opens the list, at its release, which would close
+// it again. The other buttons would paste.
 bool ComboBox::eventFilter(QObject* watched, QEvent* event)
 {
   const QEvent::Type type = event->type();
   if (watched == lineEdit() && type == QEvent::InputMethod) {
-    return true;
+    return typing_ != TypedLines;
   }
-  if (watched != lineEdit() || locked_) {
+  if (watched != lineEdit() || locked_ || !IsMouseButton(type)) {
     return QComboBox::eventFilter(watched, event);
   }
-  if (type == QEvent::MouseButtonRelease && static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton) {
+  const bool isLeft = static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton;
+  if (isLeft && typing_ == TypedLines) {
+    return false;
+  }
+  if (isLeft && type == QEvent::MouseButtonRelease) {
     setFocus(Qt::MouseFocusReason);
     showPopup();
-    return true;
   }
-  const bool isMouse =
-      type == QEvent::MouseButtonPress || type == QEvent::MouseButtonRelease || type == QEvent::MouseButtonDblClick;
-  return isMouse || QComboBox::eventFilter(watched, event);
+  return true;
 }
 
 bool ComboBox::Passes(const QKeyEvent& event) const
@@ -174,7 +220,14 @@ bool ComboBox::Passes(const QKeyEvent& event) const
 
 void ComboBox::keyPressEvent(QKeyEvent* event)
 {
-  if ((typing_ == Listed && !locked_) || Passes(*event)) {
+  if (!locked_) {
+    Q_EMIT KeyDown(event->key());
+  }
+  if (Steps(event->key())) {
+    StandOnText();
+  }
+  const bool takesAll = typing_ == Listed || typing_ == TypedLines;
+  if ((takesAll && !locked_) || Passes(*event)) {
     QComboBox::keyPressEvent(event);
   } else if (event->text().isEmpty() || event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter ||
              event->key() == Qt::Key_Escape) {
@@ -184,14 +237,15 @@ void ComboBox::keyPressEvent(QKeyEvent* event)
 
 void ComboBox::inputMethodEvent(QInputMethodEvent* event)
 {
-  if (typing_ == Listed) {
+  if (typing_ == Listed || (typing_ == TypedLines && !locked_)) {
     QComboBox::inputMethodEvent(event);
   }
 }
 
 QVariant ComboBox::inputMethodQuery(Qt::InputMethodQuery query) const
 {
-  return typing_ != Listed && query == Qt::ImEnabled ? QVariant(false) : QComboBox::inputMethodQuery(query);
+  const bool takesNone = typing_ == BackspaceOnly || typing_ == NoTyping;
+  return takesNone && query == Qt::ImEnabled ? QVariant(false) : QComboBox::inputMethodQuery(query);
 }
 
 void ComboBox::wheelEvent(QWheelEvent* event)

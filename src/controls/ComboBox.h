@@ -25,6 +25,7 @@ public:
     Listed,         // shows its lines only
     BackspaceOnly,  // the text can be shortened
     NoTyping,
+    TypedLines,  // the text of a line can be typed, which does not choose the line
   };
   Q_ENUM(TypingKind)
 
@@ -53,6 +54,8 @@ public:
 Q_SIGNALS:
   // A line was chosen, by the user or by SetListIndex.
   void Click();
+  // A key has gone down on a box that is not locked, and has not done anything yet.
+  void KeyDown(int key);
 
 protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
@@ -63,6 +66,7 @@ protected:
 
 private:
   void MakeEditable();
+  void StandOnText();
   [[nodiscard]] bool Passes(const QKeyEvent& event) const;
 
   LinesModel* lines_;

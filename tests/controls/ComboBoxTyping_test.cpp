@@ -68,11 +68,17 @@ protected:
     QApplication::sendEvent(&over, &event);
   }
 
+  // A click that opens the list: into the text, or, where that is typed, on the arrow.
   void ClickInto()
   {
-    QWidget* under = page_.childAt(box_.geometry().center());
+    constexpr int kArrow = 8;
+    const QPoint place = GetParam() == ComboBox::TypedLines
+                             ? QPoint(box_.geometry().right() - kArrow, box_.y() + kArrow)
+                             : box_.geometry().center();
+    QWidget* under = page_.childAt(place);
     ASSERT_NE(under, nullptr);
-    QTest::mouseClick(under, Qt::LeftButton);
+    QTest::mouseMove(under, under->mapFrom(&page_, place));
+    QTest::mouseClick(under, Qt::LeftButton, {}, under->mapFrom(&page_, place));
   }
 
   QWidget page_;
@@ -88,7 +94,16 @@ class AnyComboBox : public TypingComboBox
 };
 
 INSTANTIATE_TEST_SUITE_P(Kinds, AnyComboBox,
-                         testing::Values(ComboBox::Listed, ComboBox::BackspaceOnly, ComboBox::NoTyping));
+                         testing::Values(ComboBox::Listed, ComboBox::BackspaceOnly, ComboBox::NoTyping,
+                                         ComboBox::TypedLines));
+
+class TypedLinesComboBox : public TypingComboBox
+{
+protected:
+  static void Type(const char* text) { QTest::keyClicks(QApplication::focusWidget(), QString::fromLatin1(text)); }
+};
+
+INSTANTIATE_TEST_SUITE_P(Kinds, TypedLinesComboBox, testing::Values(ComboBox::TypedLines));
 
 }
 
@@ -318,4 +333,100 @@ TEST_P(TypingComboBox, TextIsCopied)
   Press(Qt::Key_A, Qt::ControlModifier);
   Press(Qt::Key_C, Qt::ControlModifier);
   EXPECT_EQ(QApplication::clipboard()->text(), QStringLiteral("Thermidor"));
+}
+
+TEST_P(TypingComboBox, LeavingAShortenedTextChoosesNoLine)
+{
+  box_.AddItem(QStringLiteral("Mar"));
+  box_.SetText(QStringLiteral("March"));
+  Press(Qt::Key_End);
+  Press(Qt::Key_Backspace);
+  Press(Qt::Key_Backspace);
+  QWidget elsewhere(&page_);
+  elsewhere.setFocusPolicy(Qt::StrongFocus);
+  elsewhere.show();
+  elsewhere.setFocus();
+  EXPECT_FALSE(box_.hasFocus());
+  EXPECT_EQ(clicks_.count(), 0);
+}
+
+TEST_P(TypedLinesComboBox, TypedLineIsShownAndNotChosen)
+{
+  Type("March");
+  EXPECT_EQ(box_.Text(), QStringLiteral("March"));
+  Press(Qt::Key_Return);
+  QWidget elsewhere(&page_);
+  elsewhere.setFocusPolicy(Qt::StrongFocus);
+  elsewhere.show();
+  elsewhere.setFocus();
+  EXPECT_FALSE(box_.hasFocus());
+  EXPECT_EQ(box_.Text(), QStringLiteral("March"));
+  EXPECT_EQ(box_.ListCount(), 3);
+  EXPECT_EQ(clicks_.count(), 0);
+}
+
+TEST_P(TypedLinesComboBox, OnlyWhatALineBeginsWithIsTyped)
+{
+  Type("Fox");
+  EXPECT_EQ(box_.Text(), QStringLiteral("F"));
+  Type("ebb");
+  EXPECT_EQ(box_.Text(), QStringLiteral("Feb"));
+  QApplication::clipboard()->setText(QStringLiteral("Thermidor"));
+  Press(Qt::Key_A, Qt::ControlModifier);
+  Press(Qt::Key_V, Qt::ControlModifier);
+  EXPECT_EQ(box_.Text(), QStringLiteral("Feb"));
+  QApplication::clipboard()->setText(QStringLiteral("March"));
+  Press(Qt::Key_A, Qt::ControlModifier);
+  Press(Qt::Key_V, Qt::ControlModifier);
+  EXPECT_EQ(box_.Text(), QStringLiteral("March"));
+  EXPECT_EQ(clicks_.count(), 0);
+}
+
+TEST_P(TypedLinesComboBox, ListOpensOnTheTypedLineAndEnterChoosesIt)
+{
+  box_.SetListIndex(0);
+  Press(Qt::Key_A, Qt::ControlModifier);
+  Type("March");
+  Press(Qt::Key_Down, Qt::AltModifier);
+  ASSERT_TRUE(QTest::qWaitFor([&] { return box_.view()->isVisible(); }));
+  ASSERT_TRUE(QTest::qWaitForWindowExposed(box_.view()->window()));
+  EXPECT_EQ(box_.view()->currentIndex().row(), 2);
+  EXPECT_EQ(clicks_.count(), 1);
+  QTest::keyClick(box_.view(), Qt::Key_Return);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return !box_.view()->isVisible(); }));
+  EXPECT_EQ(box_.ListIndex(), 2);
+  EXPECT_EQ(clicks_.count(), 2);
+}
+
+TEST_P(TypedLinesComboBox, ArrowKeysStepFromTheTypedLine)
+{
+  Type("February");
+  Press(Qt::Key_Down);
+  EXPECT_EQ(box_.Text(), QStringLiteral("March"));
+  EXPECT_EQ(clicks_.count(), 1);
+}
+
+TEST_P(TypedLinesComboBox, ClickIntoTheTextOpensNoList)
+{
+  box_.clearFocus();
+  QTest::mouseClick(page_.childAt(box_.geometry().center()), Qt::LeftButton);
+  QCoreApplication::processEvents();
+  EXPECT_TRUE(box_.hasFocus());
+  EXPECT_FALSE(box_.view()->isVisible());
+}
+
+TEST_P(TypedLinesComboBox, KeysAreToldBeforeTheyDoAnything)
+{
+  box_.SetText(QStringLiteral("March"));
+  QStringList seen;
+  QObject::connect(&box_, &ComboBox::KeyDown, &box_, [&](int key) {
+    seen.append(QStringLiteral("%1 at %2").arg(QKeySequence(key).toString(), box_.Text()));
+  });
+  Press(Qt::Key_Backspace);
+  Press(Qt::Key_Left);
+  Press(Qt::Key_Delete);
+  box_.SetLocked(true);
+  Press(Qt::Key_Delete);
+  EXPECT_EQ(seen, QStringList({"Backspace at March", "Left at Marc", "Del at Marc"}));
+  EXPECT_EQ(box_.Text(), QStringLiteral("Mar"));
 }
