@@ -22,13 +22,20 @@ QVariant Required(Recordset& options, const QString& column)
   return value;
 }
 
-void Write(const QString& column, const QVariant& value)
+void Write(const QVariantMap& valuesByColumn)
 {
   Database database = DBEngine::OpenDatabase();
   const auto options = Open(database);
   options->Edit();
-  options->Fields(column).SetValue(value);
+  for (auto setting = valuesByColumn.begin(); setting != valuesByColumn.end(); ++setting) {
+    options->Fields(setting.key()).SetValue(setting.value());
+  }
   options->Update();
+}
+
+void Write(const QString& column, const QVariant& value)
+{
+  Write(QVariantMap{{column, value}});
 }
 
 bool IsTrue(const QVariant& value)

@@ -14,7 +14,8 @@ namespace Options {
 // A setting that must be there. Throws 94 for Null.
 [[nodiscard]] QVariant Required(Recordset& options, const QString& column);
 
-// Writes one setting of the program's database at once.
+// Writes settings of the program's database at once, those of one call together.
+void Write(const QVariantMap& valuesByColumn);
 void Write(const QString& column, const QVariant& value);
 
 // A YesNo compared with True or False; Null is neither.

@@ -5,6 +5,7 @@
 
 #include "platform/RuntimeError.h"
 #include "store/DBEngine.h"
+#include "support/ErrorOf.h"
 #include "support/ProgramFolder.h"
 
 #include <gtest/gtest.h>
@@ -17,6 +18,20 @@ TEST(Options, ASettingIsWrittenAtOnceAndAlone)
   QVariantList expected = before;
   expected[1] = 4;
   EXPECT_EQ(folder.Rows("SELECT * FROM Options").front(), expected);
+}
+
+TEST(Options, SettingsOfOneCallAreWrittenTogetherOrNotAtAll)
+{
+  const ProgramFolder folder;
+  const QVariantList before = folder.Rows("SELECT * FROM Options").front();
+  EXPECT_EQ(ErrorOf([] {
+              Options::Write({{QStringLiteral("BirthMany"), false}, {QStringLiteral("Nothing"), 1}});
+            }),
+            3265);
+  EXPECT_EQ(folder.Rows("SELECT * FROM Options").front(), before);
+  Options::Write({{QStringLiteral("BirthMany"), false}, {QStringLiteral("BirthLength"), QVariant()}});
+  EXPECT_EQ(folder.Value("SELECT BirthMany FROM Options"), 0);
+  EXPECT_TRUE(folder.Value("SELECT BirthLength FROM Options").isNull());
 }
 
 TEST(Options, ARequiredSettingThatIsNullFails)
