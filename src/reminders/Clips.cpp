@@ -6,6 +6,7 @@
 #include "controls/Form.h"
 #include "controls/Forms.h"
 #include "controls/Frame.h"
+#include "platform/App.h"
 #include "platform/Attempt.h"
 #include "platform/MediaDevice.h"
 #include "reminders/modTextNotices.h"
@@ -23,6 +24,19 @@ void ShowNote(int index, bool visible)
   if (QWidget* note = window == nullptr ? nullptr : window->Control(QStringLiteral("imgNote_%1").arg(index))) {
     note->setVisible(visible);
   }
+}
+
+QString FileName(ReminderKind kind)
+{
+  switch (kind) {
+    case ReminderKind::kBirthday:
+      return QStringLiteral("hapbirth.wav");
+    case ReminderKind::kAnniversary:
+      return QStringLiteral("wmfade2.wav");
+    case ReminderKind::kEvent:
+      break;
+  }
+  return QStringLiteral("jad0044.wav");
 }
 
 void EndQueue()
@@ -57,6 +71,11 @@ void PlayClip()
 QString GetShortName(const QString& folder)
 {
   return QFileInfo(folder).canonicalFilePath();
+}
+
+QString FileFor(ReminderKind kind)
+{
+  return GetShortName(App::Path()) + QStringLiteral("/notices/") + FileName(kind);
 }
 
 void PlayNextClip()

@@ -32,13 +32,15 @@ bool ReminderRule::HoldsMany(int daysToGo) const
   return on && many && length && daysToGo >= 0 && daysToGo <= *length;
 }
 
+QString RuleColumn(ReminderKind kind, const char* part)
+{
+  return Prefix(kind) + QLatin1String(part);
+}
+
 ReminderRule ReadRule(Recordset& options, ReminderKind kind)
 {
-  const QString prefix = Prefix(kind);
-  const QVariant length = options.Fields(prefix + QLatin1String("Length")).Value();
-  const auto isTrue = [&](const char* column) {
-    return Options::IsTrue(options.Fields(prefix + QLatin1String(column)).Value());
-  };
+  const QVariant length = options.Fields(RuleColumn(kind, "Length")).Value();
+  const auto isTrue = [&](const char* part) { return Options::IsTrue(options.Fields(RuleColumn(kind, part)).Value()); };
   return {isTrue("Audio"), isTrue("Once"), isTrue("Many"),
           length.isNull() ? std::nullopt : std::optional<int>(length.toInt())};
 }

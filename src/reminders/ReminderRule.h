@@ -35,6 +35,10 @@ struct ReminderRule
   [[nodiscard]] bool Holds(int daysToGo) const { return HoldsOnce(daysToGo) || HoldsMany(daysToGo); }
 };
 
+// The column of Options that holds a part of a kind's rule: "Audio" (which says that the
+// kind is on), "Once", "Many" or "Length".
+[[nodiscard]] QString RuleColumn(ReminderKind kind, const char* part);
+
 // The rule of a kind, from the row of Options.
 [[nodiscard]] ReminderRule ReadRule(Recordset& options, ReminderKind kind);
 

@@ -4,7 +4,6 @@
 #include "reminders/modTextNotices.h"
 
 #include "looks/modToolTips.h"
-#include "platform/App.h"
 #include "platform/Attempt.h"
 #include "platform/Clock.h"
 #include "reminders/Clips.h"
@@ -27,7 +26,6 @@ struct Scan
   std::unique_ptr<Recordset> rows;
   const char* month;
   const char* day;
-  const char* clip;
   bool& hit;
 };
 
@@ -47,21 +45,18 @@ bool FindHit(const Scan& scan, const ReminderRule& rule)
   return false;
 }
 
-void QueueClip(int place, const char* clip)
+void QueueClip(int place, ReminderKind kind)
 {
-  const QString folder = Clips::GetShortName(App::Path());
   ClipFiles.resize(place + 1);
-  ClipFiles[place] = folder + QLatin1String(clip);
+  ClipFiles[place] = Clips::FileFor(kind);
 }
 
 std::array<Scan, 3> OpenScans(Database& database)
 {
   const auto open = [&](const QString& query) { return database.OpenRecordset(query, Database::kDynaset); };
-  return {{{ReminderKind::kBirthday, open(Queries::kCheckBirthdays), "BirthMonth", "BirthDate", "/notices/hapbirth.wav",
-            BirthdayHit},
-           {ReminderKind::kAnniversary, open(Queries::kCheckAnniversaries), "AnnMonth", "AnnDate",
-            "/notices/wmfade2.wav", AnniversaryHit},
-           {ReminderKind::kEvent, open(Queries::kCheckEvents), "Month", "Date", "/notices/jad0044.wav", CalendarHit}}};
+  return {{{ReminderKind::kBirthday, open(Queries::kCheckBirthdays), "BirthMonth", "BirthDate", BirthdayHit},
+           {ReminderKind::kAnniversary, open(Queries::kCheckAnniversaries), "AnnMonth", "AnnDate", AnniversaryHit},
+           {ReminderKind::kEvent, open(Queries::kCheckEvents), "Month", "Date", CalendarHit}}};
 }
 
 void LookForHits(const std::array<Scan, 3>& scans, Recordset& options)
@@ -70,7 +65,7 @@ void LookForHits(const std::array<Scan, 3>& scans, Recordset& options)
   int clipCount = 0;
   for (const Scan& scan : scans) {
     if (FindHit(scan, ReadRule(options, scan.kind))) {
-      QueueClip(clipCount++, scan.clip);
+      QueueClip(clipCount++, scan.kind);
       scan.hit = true;
     }
   }

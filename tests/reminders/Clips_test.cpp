@@ -2,40 +2,19 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "ReminderTest.h"
+#include "SilentClip.h"
 
 #include "reminders/Clips.h"
-
-#include <QtEndian>
 
 using modTextNotices::ClipFiles;
 using modTextNotices::ClipIndex;
 
 namespace {
 
-// A clip of silence, 16 bits and 8000 a second, so that it plays without a server.
-void WriteClip(const QString& path, int milliseconds)
-{
-  const int bytes = milliseconds * 16;
-  QByteArray wav("RIFF\0\0\0\0WAVEfmt \x10\0\0\0\x01\0\x01\0\x40\x1f\0\0\x80\x3e\0\0\x02\0\x10\0data\0\0\0\0", 44);
-  const auto put = [&](int at, quint32 value) { qToLittleEndian(value, wav.data() + at); };
-  put(4, static_cast<quint32>(36 + bytes));
-  put(40, static_cast<quint32>(bytes));
-  wav.append(QByteArray(bytes, '\0'));
-  QFile file(path);
-  ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-  file.write(wav);
-}
-
 class ClipsTest : public ReminderTest
 {
 protected:
-  void WriteClips(int milliseconds) const
-  {
-    QDir().mkpath(folder.File("/notices"));
-    for (const char* name : {"hapbirth.wav", "wmfade2.wav", "jad0044.wav"}) {
-      WriteClip(folder.File(QStringLiteral("/notices/")) + QLatin1String(name), milliseconds);
-    }
-  }
+  void WriteClips(int milliseconds) const { WriteSilentClips(folder, milliseconds); }
 
   // Which of the three notes show.
   static QString Notes()
@@ -180,7 +159,7 @@ TEST_F(ClipsTest, AFolderWithBlanksAndQuotesInItsNamePlays)
 {
   const QString odd = folder.File(QStringLiteral("/my \"home\" folder"));
   QDir().mkpath(odd + QStringLiteral("/notices"));
-  WriteClip(odd + QStringLiteral("/notices/hapbirth.wav"), 60000);
+  WriteSilentClip(odd + QStringLiteral("/notices/hapbirth.wav"), 60000);
   ClipFiles = {Clips::GetShortName(odd) + QStringLiteral("/notices/hapbirth.wav")};
   Clips::PlayNextClip();
   EXPECT_EQ(MediaDevice::Mode(), QStringLiteral("playing"));
