@@ -9,6 +9,7 @@
 #include "lookup/frmQuillmark.h"
 #include "occasions/frmSpecial.h"
 #include "people/frmNew.h"
+#include "reminders/frmNotice.h"
 #include "reminders/frmTextNotice.h"
 #include "shell/frmIntro.h"
 #include "shell/mdiQuillmark.h"
@@ -20,6 +21,7 @@ void RegisterForms()
   Forms::Register(QStringLiteral("frmNew"), [] { return new frmNew; });
   Forms::Register(QStringLiteral("frmQuillmark"), [] { return new frmQuillmark; });
   Forms::Register(QStringLiteral("frmReminders"), [] { return new frmReminders; });
+  Forms::Register(QStringLiteral("frmNotice"), [] { return new frmNotice; });
   Forms::Register(QStringLiteral("frmSpecial"), [] { return new frmSpecial; });
   Forms::Register(QStringLiteral("frmTextNotice"), [] { return new frmTextNotice; });
 }
