@@ -117,6 +117,8 @@ void ComboBox::MakeEditable()
   setInsertPolicy(QComboBox::NoInsert);
   setCompleter(nullptr);
   lineEdit()->setReadOnly(locked_);
+  // The box would show the menu of its text in the text's place.
+  setContextMenuPolicy(Qt::NoContextMenu);
   lineEdit()->setContextMenuPolicy(Qt::NoContextMenu);
   lineEdit()->setAcceptDrops(false);
   lineEdit()->installEventFilter(this);

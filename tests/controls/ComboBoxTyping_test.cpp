@@ -8,6 +8,7 @@
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QClipboard>
+#include <QContextMenuEvent>
 #include <QDragEnterEvent>
 #include <QDropEvent>
 #include <QInputMethodEvent>
@@ -15,6 +16,7 @@
 #include <QMimeData>
 #include <QSignalSpy>
 #include <QTest>
+#include <QTimer>
 #include <QWheelEvent>
 
 namespace {
@@ -199,6 +201,22 @@ TEST_P(AnyComboBox, LockedIsChangedByNobodyButTheProgram)
   box_.SetLocked(false);
   Press(Qt::Key_Up);
   EXPECT_EQ(box_.Text(), QStringLiteral("February"));
+}
+
+TEST_P(AnyComboBox, NoMenuOpensThatWouldCutOrPaste)
+{
+  for (QWidget* under : {page_.childAt(box_.geometry().center()), static_cast<QWidget*>(&box_)}) {
+    QContextMenuEvent event(QContextMenuEvent::Mouse, under->rect().center(),
+                            under->mapToGlobal(under->rect().center()));
+    QTimer::singleShot(0, [] {
+      if (QWidget* menu = QApplication::activePopupWidget()) {
+        ADD_FAILURE() << "a menu opened";
+        menu->close();
+      }
+    });
+    QApplication::sendEvent(under, &event);
+    QCoreApplication::processEvents();
+  }
 }
 
 TEST_P(AnyComboBox, LockedStillTakesTheFocus)
