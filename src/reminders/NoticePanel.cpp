@@ -42,11 +42,11 @@ void NoticePanel::Load(Recordset& options)
   const QString length = rule.length ? QString::number(*rule.length) : QString();
   controls_.days->AddItems(Numbers());
   if (rule.once) {
-    options_[kOneDay].setChecked(true);
+    Select(kOneDay);
     controls_.days->SetText(length);
   }
   if (rule.many) {
-    options_[kManyDays].setChecked(true);
+    Select(kManyDays);
     controls_.days->SetText(length);
   }
   controls_.status->setText(StatusTexts::StatusOf(kind_, rule));
@@ -143,6 +143,15 @@ void NoticePanel::SetMethod(const NoticeSettings::Methods& methods)
     controls_.method->setText(StatusTexts::Method(methods.text, methods.audio));
   }
   controls_.method->setVisible(methods.Any());
+}
+
+// Tab comes to the selected option, as it does once the user has clicked it.
+void NoticePanel::Select(int index)
+{
+  options_[index].setChecked(true);
+  for (const auto& [each, option] : options_.All()) {
+    option->setFocusPolicy(each == index ? Qt::StrongFocus : Qt::ClickFocus);
+  }
 }
 
 // The toolkit keeps one of an exclusive group chosen.

@@ -53,6 +53,7 @@ private:
   void SaveRule(DayRule rule);
   void SwitchOff();
   void SetMethod(const NoticeSettings::Methods& methods);
+  void Select(int index);
   void DeselectOptions();
 
   ReminderKind kind_;

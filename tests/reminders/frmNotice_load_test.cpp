@@ -289,6 +289,19 @@ TEST_F(NoticeLoad, TabGoesDownThePanelsToTheCommands)
       << "the arrow keys go from one option to the other";
 }
 
+TEST_F(NoticeLoad, TabComesToTheSelectedOption)
+{
+  Set("AnnOnce=1, AnnMany=0");
+  Open();
+  QStringList order;
+  Drive::Control(Page(), "chkCancelBirth").setFocus();
+  for (int step = 0; step < 4; ++step) {
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    order.append(QApplication::focusWidget()->objectName());
+  }
+  EXPECT_EQ(order.join(u' ').toStdString(), "optOneOrManyAnn_0 cboAnnDays chkCancelAnn optOneOrManyCal_1");
+}
+
 TEST_F(NoticeLoad, EveryControlHasANameOfItsOwnForAScreenReader)
 {
   Open();
