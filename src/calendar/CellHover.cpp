@@ -87,6 +87,7 @@ bool CellHover::ShowTip(const ListBox& list, const QPoint& point, const QPoint& 
   if (line.isEmpty() || list.toolTip().isEmpty()) {
     return false;
   }
-  QToolTip::showText(onScreen, line + QLatin1Char('\n') + list.toolTip(), list.viewport());
+  const QString tip = line.toHtmlEscaped() + QStringLiteral("<br>") + list.toolTip().toHtmlEscaped();
+  QToolTip::showText(onScreen, tip, list.viewport());
   return true;
 }

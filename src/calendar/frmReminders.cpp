@@ -22,6 +22,7 @@
 #include "ui_frmReminders.h"
 
 #include <QKeyEvent>
+#include <QMouseEvent>
 #include <QSignalBlocker>
 
 #include <algorithm>
@@ -214,6 +215,7 @@ void frmReminders::HideDays()
       day->hide();
     }
   }
+  modMouseMove::Reset(*this, modMouseMove::Row::kReminders);
   for (const auto& [index, list] : lstReminders_.All()) {
     list->hide();
   }
@@ -396,8 +398,8 @@ bool frmReminders::eventFilter(QObject* watched, QEvent* event)
   } else if (watched == ui_->picReminders && event->type() == QEvent::Resize) {
     PlaceBottomRule();
   } else if (watched == ui_->txtNotesDisplay->viewport() && event->type() == QEvent::MouseButtonRelease) {
-    ui_->txtNotesDisplay->hide();
-    return true;
+    const Qt::MouseButton button = static_cast<QMouseEvent*>(event)->button();
+    ui_->txtNotesDisplay->setHidden(button == Qt::LeftButton || button == Qt::RightButton);
   }
   return false;
 }
