@@ -10,6 +10,8 @@
 #include <QSaveFile>
 #include <QTextStream>
 
+#include <unistd.h>
+
 namespace Files {
 namespace {
 
@@ -19,6 +21,13 @@ void OpenForReading(QFile& file)
     RaiseError(ErrorNumber::kFileNotFound);
   }
   if (!file.open(QIODevice::ReadOnly)) {
+    RaiseError(ErrorNumber::kFileAccess);
+  }
+}
+
+void OpenForWriting(QSaveFile& file)
+{
+  if (!file.open(QIODevice::WriteOnly)) {
     RaiseError(ErrorNumber::kFileAccess);
   }
 }
@@ -34,6 +43,14 @@ void Pour(QFile& source, QSaveFile& target)
   }
 }
 
+}
+
+// What is left in the buffer may fail as well, and so may what the system has put off.
+void Commit(QSaveFile& file)
+{
+  if (!file.flush() || fsync(file.handle()) != 0 || !file.commit()) {
+    RaiseError(ErrorNumber::kFileAccess);
+  }
 }
 
 qint64 FileLen(const QString& path)
@@ -70,14 +87,20 @@ void CopyFile(const QString& source, const QString& target)
   QFile from(source);
   OpenForReading(from);
   QSaveFile to(target);
-  if (!to.open(QIODevice::WriteOnly)) {
-    RaiseError(ErrorNumber::kFileAccess);
-  }
+  OpenForWriting(to);
   to.setPermissions(from.permissions());
   Pour(from, to);
-  if (!to.commit()) {
+  Commit(to);
+}
+
+void WriteFile(const QString& path, const QByteArray& contents)
+{
+  QSaveFile file(path);
+  OpenForWriting(file);
+  if (file.write(contents) != contents.size()) {
     RaiseError(ErrorNumber::kFileAccess);
   }
+  Commit(file);
 }
 
 QStringList ReadLines(const QString& path)

@@ -6,6 +6,8 @@
 #include <QString>
 #include <QStringList>
 
+class QSaveFile;
+
 // Operations on files. Each throws a RuntimeError: 53 if a file is not there,
 // 75 if it cannot be read, written or removed.
 namespace Files {
@@ -22,6 +24,12 @@ void Name(const QString& oldPath, const QString& newPath);
 // Copies a file over whatever stands at `target`. The copy appears whole or not at all,
 // with the permissions of its source.
 void CopyFile(const QString& source, const QString& target);
+
+// Writes a file over whatever stands at `path`. It appears whole or not at all.
+void WriteFile(const QString& path, const QByteArray& contents);
+
+// Gives a file its name once all that was written to it is on the disk.
+void Commit(QSaveFile& file);
 
 // The lines of a UTF-8 text file, without their line ends.
 [[nodiscard]] QStringList ReadLines(const QString& path);

@@ -3,6 +3,7 @@
 
 #include "platform/SavePicture.h"
 
+#include "platform/Files.h"
 #include "platform/RuntimeError.h"
 
 #include <QSaveFile>
@@ -10,7 +11,8 @@
 void SavePicture(const QImage& picture, const QString& path)
 {
   QSaveFile file(path);
-  if (!file.open(QIODevice::WriteOnly) || !picture.save(&file, "BMP") || !file.commit()) {
+  if (!file.open(QIODevice::WriteOnly) || !picture.save(&file, "BMP")) {
     RaiseError(ErrorNumber::kFileAccess);
   }
+  Files::Commit(file);
 }

@@ -4,6 +4,7 @@
 #include "platform/Files.h"
 #include "platform/RuntimeError.h"
 #include "support/ErrorOf.h"
+#include "support/WeakProcess.h"
 
 #include <gtest/gtest.h>
 
@@ -11,11 +12,7 @@
 #include <QFile>
 #include <QTemporaryDir>
 
-#include <csignal>
-#include <sys/resource.h>
 #include <sys/stat.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
 namespace {
 
@@ -50,36 +47,6 @@ protected:
 
   QTemporaryDir folder;
 };
-
-// What `work` fails with in a process of its own, run as a user without rights, whose
-// files grow no longer than `limit`.
-template <typename Work>
-int ErrorInAWeakProcess(Work&& work, rlim_t limit = RLIM_INFINITY)
-{
-  int pipeEnds[2] = {};
-  if (pipe(pipeEnds) != 0) {
-    return -1;
-  }
-  const pid_t child = fork();
-  if (child == 0) {
-    const rlimit sizes{limit, limit};
-    signal(SIGXFSZ, SIG_IGN);
-    int result = -1;
-    if (setrlimit(RLIMIT_FSIZE, &sizes) == 0 && (geteuid() != 0 || (setgid(65534) == 0 && setuid(65534) == 0))) {
-      result = ErrorOf(work);
-    }
-    static_cast<void>(!write(pipeEnds[1], &result, sizeof result));
-    _exit(0);
-  }
-  close(pipeEnds[1]);
-  int result = -1;
-  if (read(pipeEnds[0], &result, sizeof result) != sizeof result) {
-    result = -1;
-  }
-  close(pipeEnds[0]);
-  waitpid(child, nullptr, 0);
-  return result;
-}
 
 }
 
@@ -265,6 +232,44 @@ TEST_F(FilesInAFolder, ACopyThatDoesNotFitLeavesWhatStoodThere)
         << limit;
     EXPECT_EQ(Contents("target"), "old") << limit;
     EXPECT_EQ(Entries(), QStringList({"source", "target"})) << limit;
+  }
+}
+
+TEST_F(FilesInAFolder, WriteFileReplacesAllThatStoodThere)
+{
+  for (const QByteArray& contents : {QByteArray(100'000, 'o'), QByteArray("\0\xFF\n", 3), QByteArray()}) {
+    Files::WriteFile(Path("file"), contents);
+    EXPECT_EQ(Contents("file"), contents);
+  }
+  EXPECT_EQ(Entries(), QStringList({"file"}));
+}
+
+TEST_F(FilesInAFolder, WriteFileWritesTheWholeFileOrNone)
+{
+  ASSERT_TRUE(QDir(folder.path()).mkdir("inner"));
+  Write("file", "old");
+  Allow(0777, "file", 0666);
+  for (const qsizetype size : {1, 1000, 100'000}) {
+    const auto write = [&] { Files::WriteFile(Path("file"), QByteArray(size, 'n')); };
+    EXPECT_EQ(ErrorInAWeakProcess(write, static_cast<rlim_t>(size - 1)), ErrorNumber::kFileAccess) << size;
+  }
+  EXPECT_EQ(ErrorOf([&] { Files::WriteFile(Path("inner"), "x"); }), ErrorNumber::kFileAccess);
+  EXPECT_EQ(ErrorOf([&] { Files::WriteFile(Path("none/file"), "x"); }), ErrorNumber::kFileAccess);
+  EXPECT_EQ(ErrorOf([&] { Files::WriteFile(Path("file/file"), "x"); }), ErrorNumber::kFileAccess);
+  EXPECT_EQ(Contents("file"), "old");
+  EXPECT_EQ(Entries(), QStringList({"file", "inner"}));
+}
+
+TEST_F(FilesInAFolder, TheLastPieceOfACopyIsNotLost)
+{
+  Write("target", "old");
+  Allow(0777, "target", 0666);
+  for (const rlim_t size : {rlim_t{1}, rlim_t{1000}, rlim_t{65'537}, rlim_t{65'536 + 4096}, rlim_t{131'072}}) {
+    Write("source", QByteArray(static_cast<qsizetype>(size), 'n'));
+    const auto copy = [&] { Files::CopyFile(Path("source"), Path("target")); };
+    EXPECT_EQ(ErrorInAWeakProcess(copy, size - 1), ErrorNumber::kFileAccess) << size;
+    EXPECT_EQ(Contents("target"), "old") << size;
+    EXPECT_EQ(Entries(), QStringList({"source", "target"})) << size;
   }
 }
 

@@ -4,6 +4,7 @@
 #include "platform/RuntimeError.h"
 #include "platform/SavePicture.h"
 #include "support/ErrorOf.h"
+#include "support/FullDisk.h"
 
 #include <gtest/gtest.h>
 
@@ -12,34 +13,7 @@
 #include <QImageReader>
 #include <QTemporaryDir>
 
-#include <csignal>
-#include <sys/resource.h>
-
 namespace {
-
-// Lets no file grow beyond a size, as a disk that is full would.
-class FullDisk
-{
-public:
-  explicit FullDisk(rlim_t bytes) : handler_(std::signal(SIGXFSZ, SIG_IGN))
-  {
-    getrlimit(RLIMIT_FSIZE, &before_);
-    const rlimit limit = {bytes, before_.rlim_max};
-    setrlimit(RLIMIT_FSIZE, &limit);
-  }
-  ~FullDisk()
-  {
-    setrlimit(RLIMIT_FSIZE, &before_);
-    std::signal(SIGXFSZ, handler_);
-  }
-  FullDisk(const FullDisk&) = delete;
-  FullDisk& operator=(const FullDisk&) = delete;
-
-private:
-  using Handler = void (*)(int);
-  Handler handler_;
-  rlimit before_ = {};
-};
 
 class SavedPictures : public testing::Test
 {
@@ -137,15 +111,18 @@ TEST_F(SavedPictures, TheEmptyOneIsRefused)
 
 TEST_F(SavedPictures, AppearWholeOrNotAtAllOnAFullDisk)
 {
-  Write("7.bmp", "A picture.");
-  const QImage picture = PictureOf(400, 300);
-  {
-    const FullDisk disk(10'000);
-    EXPECT_EQ(SavingError(picture, Path("7.bmp")), ErrorNumber::kFileAccess);
-    EXPECT_EQ(SavingError(picture, Path("8.bmp")), ErrorNumber::kFileAccess);
+  for (const auto& [side, limit] : {std::pair(300, 10'000), std::pair(20, 1000), std::pair(1, 0)}) {
+    SCOPED_TRACE(side);
+    Write("7.bmp", "A picture.");
+    const QImage picture = PictureOf(side, side);
+    {
+      const FullDisk disk(static_cast<rlim_t>(limit));
+      EXPECT_EQ(SavingError(picture, Path("7.bmp")), ErrorNumber::kFileAccess);
+      EXPECT_EQ(SavingError(picture, Path("8.bmp")), ErrorNumber::kFileAccess);
+    }
+    EXPECT_EQ(Contents(Path("7.bmp")), "A picture.");
+    EXPECT_EQ(Files(), QStringList("7.bmp")) << "nothing half is left behind";
+    SavePicture(picture, Path("7.bmp"));
+    EXPECT_EQ(QImage(Path("7.bmp")).size(), picture.size());
   }
-  EXPECT_EQ(Contents(Path("7.bmp")), "A picture.");
-  EXPECT_EQ(Files(), QStringList("7.bmp")) << "nothing half is left behind";
-  SavePicture(picture, Path("7.bmp"));
-  EXPECT_EQ(QImage(Path("7.bmp")).size(), picture.size());
 }

@@ -6,43 +6,17 @@
 #include "platform/Command.h"
 #include "shell/DatabaseCare.h"
 #include "store/DBEngine.h"
+#include "support/FullDisk.h"
 
 #include <QDir>
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QTimer>
 
-#include <csignal>
-#include <sys/resource.h>
-
 namespace {
 
 const QString kSorry = QStringLiteral("Sorry, your database could not be compacted.");
 constexpr auto kYesNo = QMessageBox::Yes | QMessageBox::No;
-
-// Lets no file grow beyond a size, as a disk that is full would.
-class FullDisk
-{
-public:
-  explicit FullDisk(rlim_t bytes) : handler_(std::signal(SIGXFSZ, SIG_IGN))
-  {
-    getrlimit(RLIMIT_FSIZE, &before_);
-    const rlimit limit = {bytes, before_.rlim_max};
-    setrlimit(RLIMIT_FSIZE, &limit);
-  }
-  ~FullDisk()
-  {
-    setrlimit(RLIMIT_FSIZE, &before_);
-    std::signal(SIGXFSZ, handler_);
-  }
-  FullDisk(const FullDisk&) = delete;
-  FullDisk& operator=(const FullDisk&) = delete;
-
-private:
-  using Handler = void (*)(int);
-  Handler handler_;
-  rlimit before_ = {};
-};
 
 class DatabaseCareTest : public ShellTest
 {
