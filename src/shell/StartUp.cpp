@@ -11,6 +11,7 @@
 #include "people/frmNew.h"
 #include "reminders/frmNotice.h"
 #include "reminders/frmTextNotice.h"
+#include "shell/frmAutoStart.h"
 #include "shell/frmIntro.h"
 #include "shell/mdiQuillmark.h"
 
@@ -18,6 +19,7 @@ void RegisterForms()
 {
   Forms::Register(QStringLiteral("frmIntro"), [] { return new frmIntro; });
   Forms::Register(QStringLiteral("frmAnn"), [] { return new frmAnn; });
+  Forms::Register(QStringLiteral("frmAutoStart"), [] { return new frmAutoStart; });
   Forms::Register(QStringLiteral("frmNew"), [] { return new frmNew; });
   Forms::Register(QStringLiteral("frmQuillmark"), [] { return new frmQuillmark; });
   Forms::Register(QStringLiteral("frmReminders"), [] { return new frmReminders; });

@@ -3,6 +3,7 @@
 
 #include "VirtualDesktop.h"
 
+#include <QDir>
 #include <QRegularExpression>
 #include <QTest>
 
@@ -106,13 +107,26 @@ QString VirtualDesktop::QuerySql(const QString& sql) const
   return Run("sqlite3", {File("/quillmark2002.mdb"), sql});
 }
 
+void VirtualDesktop::RenameFolder(const QString& name)
+{
+  const QString renamed = directory_.filePath(name);
+  if (!QDir().rename(folder_, renamed)) {
+    throw std::runtime_error("the folder cannot be renamed");
+  }
+  folder_ = renamed;
+}
+
 std::unique_ptr<QProcess> VirtualDesktop::StartProgram(const QStringList& launcher) const
+{
+  return Start(launcher + QStringList(File(QStringLiteral("/quillmark"))));
+}
+
+std::unique_ptr<QProcess> VirtualDesktop::Start(const QStringList& command, const QString& workingDirectory) const
 {
   auto program = std::make_unique<QProcess>();
   program->setProcessEnvironment(environment_);
   program->setProcessChannelMode(QProcess::ForwardedChannels);
-  QStringList command = launcher;
-  command.append(File(QStringLiteral("/quillmark")));
+  program->setWorkingDirectory(workingDirectory);
   program->start(command.first(), command.mid(1));
   EXPECT_TRUE(program->waitForStarted(kPatience));
   return program;
@@ -144,11 +158,20 @@ QStringList VirtualDesktop::Windows(const QProcess& program, const QString& titl
 std::optional<QString> VirtualDesktop::AwaitWindow(const QProcess& program, const QString& title) const
 {
   const QString pattern = QStringLiteral("^%1$").arg(QRegularExpression::escape(title));
+  return AwaitFound({"--all", "--pid", QString::number(program.processId()), "--name", pattern});
+}
+
+std::optional<QString> VirtualDesktop::AwaitWindow(const QString& title) const
+{
+  return AwaitFound({"--name", QStringLiteral("^%1$").arg(QRegularExpression::escape(title))});
+}
+
+std::optional<QString> VirtualDesktop::AwaitFound(const QStringList& search) const
+{
   QString found;
   static_cast<void>(QTest::qWaitFor(
       [&] {
-        found = Run("xdotool", {"search", "--onlyvisible", "--all", "--pid", QString::number(program.processId()),
-                                "--name", pattern});
+        found = Run("xdotool", QStringList({"search", "--onlyvisible"}) + search);
         return !found.isEmpty();
       },
       kPatience));

@@ -24,6 +24,9 @@ public:
   [[nodiscard]] const QString& Folder() const { return folder_; }
   [[nodiscard]] QString File(const QString& relative) const { return folder_ + relative; }
 
+  // Gives the program's folder another name.
+  void RenameFolder(const QString& name);
+
   void SetEnvironment(const QString& name, const QString& value);
   void RunSql(const QString& sql) const;
   [[nodiscard]] QString QuerySql(const QString& sql) const;
@@ -31,8 +34,13 @@ public:
   // Starts a copy of the program. With a user, as that user.
   std::unique_ptr<QProcess> StartProgram(const QStringList& launcher = {}) const;
 
+  // Starts any command on the display.
+  std::unique_ptr<QProcess> Start(const QStringList& command, const QString& workingDirectory = {}) const;
+
   // The first visible window of the process with that title; waits for it.
   [[nodiscard]] std::optional<QString> AwaitWindow(const QProcess& program, const QString& title) const;
+  // The same of whatever process.
+  [[nodiscard]] std::optional<QString> AwaitWindow(const QString& title) const;
   [[nodiscard]] bool HasVisibleWindow(const QProcess& program, const QString& title) const;
 
   // All windows of the process with that title, also those that are not visible.
@@ -45,6 +53,7 @@ public:
   void ClickAt(const QString& window, int x, int y) const;
 
 private:
+  [[nodiscard]] std::optional<QString> AwaitFound(const QStringList& search) const;
   void StartDisplay(const QString& screen);
   bool TryDisplay(const QString& screen);
   void StopDisplay();
