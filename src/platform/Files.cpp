@@ -10,6 +10,8 @@
 #include <QSaveFile>
 #include <QTextStream>
 
+#include <cerrno>
+#include <cstdio>
 #include <unistd.h>
 
 namespace Files {
@@ -77,9 +79,17 @@ void Name(const QString& oldPath, const QString& newPath)
   if (!QFileInfo(oldPath).isFile()) {
     RaiseError(ErrorNumber::kFileNotFound);
   }
-  if (!QFile::rename(oldPath, newPath)) {
+  if (QFileInfo::exists(newPath)) {
     RaiseError(ErrorNumber::kFileAccess);
   }
+  if (rename(QFile::encodeName(oldPath).constData(), QFile::encodeName(newPath).constData()) == 0) {
+    return;
+  }
+  if (errno != EXDEV) {
+    RaiseError(ErrorNumber::kFileAccess);
+  }
+  CopyFile(oldPath, newPath);
+  DeleteFile(oldPath);
 }
 
 void CopyFile(const QString& source, const QString& target)

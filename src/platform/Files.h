@@ -18,7 +18,8 @@ namespace Files {
 // Removes a file.
 void DeleteFile(const QString& path);
 
-// Gives a file another name; fails if the new name is taken.
+// Gives a file another name; fails if the new name is taken. On another disk the file
+// appears whole before the old one goes.
 void Name(const QString& oldPath, const QString& newPath);
 
 // Copies a file over whatever stands at `target`. The copy appears whole or not at all,

@@ -13,6 +13,8 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 Database Workspace::OpenDatabase(const QString& path)
@@ -22,13 +24,35 @@ Database Workspace::OpenDatabase(const QString& path)
 
 namespace {
 
-// On the disk, so that the source may be deleted.
+// Files that are made meanwhile are for their owner alone.
+class OwnerAlone
+{
+public:
+  OwnerAlone() : before_(umask(S_IRWXG | S_IRWXO)) {}
+  ~OwnerAlone() { umask(before_); }
+  OwnerAlone(const OwnerAlone&) = delete;
+  OwnerAlone& operator=(const OwnerAlone&) = delete;
+
+private:
+  mode_t before_;
+};
+
+bool Flush(const QString& path)
+{
+  const int handle = open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC);
+  const bool flushed = handle >= 0 && fsync(handle) == 0;
+  close(handle);
+  return flushed;
+}
+
+// On the disk, so that the source may be deleted; and its name as well, where the file
+// system knows how to.
 void MakeLasting(const QString& path)
 {
-  QFile file(path);
-  if (!file.open(QIODevice::ReadWrite) || fsync(file.handle()) != 0) {
+  if (!Flush(path)) {
     StoreError::Raise(StoreError::kDiskError);
   }
+  Flush(QFileInfo(path).path());
 }
 
 }
@@ -54,6 +78,7 @@ void CompactDatabase(const QString& source, const QString& target)
     StoreError::Raise(StoreError::kInUse);
   }
   const std::shared_ptr<Connection> connection = Connection::To(source);
+  const OwnerAlone ownerAlone;
   try {
     Statement(*connection, QStringLiteral("VACUUM INTO ?")).Bind(1, target).Step();
     MakeLasting(target);

@@ -20,8 +20,8 @@ namespace DBEngine {
 // The session of that number; 0 is the default and the only one.
 [[nodiscard]] Workspace& Workspaces(int number);
 
-// Writes a compacted copy of the database at `source` to a new file. Throws 3204 if
-// `target` exists, 3356 if `source` is in use.
+// Writes a compacted copy of the database at `source` to a new file, for its owner alone.
+// Throws 3204 if `target` exists, 3356 if `source` is in use.
 void CompactDatabase(const QString& source, const QString& target);
 
 // The program's own database, "quillmark2002.mdb" in its folder.

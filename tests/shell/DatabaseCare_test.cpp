@@ -7,11 +7,14 @@
 #include "shell/DatabaseCare.h"
 #include "store/DBEngine.h"
 #include "support/FullDisk.h"
+#include "support/WithoutRights.h"
 
 #include <QDir>
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QTimer>
+
+#include <sys/stat.h>
 
 namespace {
 
@@ -41,6 +44,11 @@ protected:
     QFile file(path);
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
     file.write(contents);
+  }
+
+  static void MakePublic(const QString& path, int mode)
+  {
+    ASSERT_EQ(chmod(path.toUtf8().constData(), static_cast<mode_t>(mode)), 0);
   }
 
   [[nodiscard]] QString TemporaryPath() const { return folder.File("/Quillmark1.mdb"); }
@@ -284,6 +292,52 @@ TEST_F(DatabaseCareTest, AFullDiskLeavesTheOldFile)
   EXPECT_TRUE(Database() == before);
 }
 
+TEST_F(DatabaseCareTest, AFullDiskKeepsNoRoomForAHalfCopy)
+{
+  folder.Execute("INSERT INTO People (FirstName, Notes) VALUES ('Ann', ?)", {QString(200'000, u'n')});
+  ExpectQuestion(QMessageBox::Yes);
+  boxes.Expect(kSorry);
+  {
+    const FullDisk disk(50'000);
+    Compact();
+  }
+  EXPECT_FALSE(QFile::exists(TemporaryPath()));
+  ExpectQuestion(QMessageBox::Yes);
+  boxes.Expect(End(CompactSize()));
+  Compact();
+}
+
+TEST_F(DatabaseCareTest, AFolderThatMayNotBeWrittenIsNotCompacted)
+{
+  const QByteArray before = Database();
+  MakePublic(folder.DatabasePath(), 0666);
+  MakePublic(folder.Path(), 0555);
+  {
+    const WithoutRights rights;
+    ASSERT_TRUE(rights.Done());
+    ExpectQuestion(QMessageBox::Yes);
+    boxes.Expect(kSorry);
+    Compact();
+  }
+  EXPECT_TRUE(Database() == before);
+  EXPECT_FALSE(QFile::exists(TemporaryPath()));
+}
+
+TEST_F(DatabaseCareTest, AFileThatMayNotBeWrittenIsNotCompacted)
+{
+  const QByteArray before = Database();
+  MakePublic(folder.DatabasePath(), 0444);
+  MakePublic(folder.Path(), 0777);
+  {
+    const WithoutRights rights;
+    ASSERT_TRUE(rights.Done());
+    boxes.Expect(kSorry);
+    Compact();
+  }
+  EXPECT_TRUE(Database() == before);
+  EXPECT_FALSE(QFile::exists(TemporaryPath()));
+}
+
 TEST_F(DatabaseCareTest, BackupCopiesTheFileInSilence)
 {
   Waste();
@@ -352,8 +406,8 @@ TEST_F(DatabaseCareTest, ABackupThatCannotBeWrittenIsSilent)
   EXPECT_TRUE(QDir(elsewhere.path()).isEmpty());
   const QString target = elsewhere.path() + "/copy.mdb";
   Write(target, "an old backup");
-  {
-    const FullDisk disk(10'000);
+  for (const qsizetype limit : {qsizetype{10'000}, before.size() - 1}) {
+    const FullDisk disk(static_cast<rlim_t>(limit));
     BackupTo(target);
     BackupTo(elsewhere.path() + "/new.mdb");
   }
@@ -361,6 +415,51 @@ TEST_F(DatabaseCareTest, ABackupThatCannotBeWrittenIsSilent)
   EXPECT_EQ(QDir(elsewhere.path()).entryList(QDir::Files | QDir::Hidden), QStringList("copy.mdb"));
   EXPECT_TRUE(Database() == before);
   EXPECT_EQ(boxes.Count(), 0U);
+}
+
+TEST_F(DatabaseCareTest, ABackupOverWhatMayNotBeWrittenIsSilentAndLeavesIt)
+{
+  Start();
+  MakePublic(folder.DatabasePath(), 0644);
+  MakePublic(folder.Path(), 0755);
+  const QString target = elsewhere.path() + "/copy.mdb";
+  Write(target, "an old backup");
+  for (const auto& [folderMode, fileMode] : {std::pair(0777, 0444), std::pair(0555, 0666), std::pair(0555, 0444)}) {
+    MakePublic(target, fileMode);
+    MakePublic(elsewhere.path(), folderMode);
+    const WithoutRights rights;
+    ASSERT_TRUE(rights.Done());
+    BackupTo(target);
+    BackupTo(elsewhere.path() + "/none/new.mdb");
+    EXPECT_EQ(Contents(target), "an old backup") << folderMode << ' ' << fileMode;
+    EXPECT_EQ(QDir(elsewhere.path()).entryList(QDir::Files | QDir::Hidden), QStringList("copy.mdb"));
+  }
+  EXPECT_EQ(boxes.Count(), 0U);
+}
+
+TEST_F(DatabaseCareTest, ABackupInThePlaceOfTheFileHoldsEveryRow)
+{
+  Waste();
+  Set("Theme=3, ToolTips=1");
+  folder.Execute("INSERT INTO Ann (Spouse1ID, Spouse2ID) VALUES (1, 1)");
+  const auto all = [&] {
+    return std::vector{folder.Rows("SELECT * FROM People"), folder.Rows("SELECT * FROM Options"),
+                       folder.Rows("SELECT * FROM Ann"), folder.Rows("SELECT * FROM Reminders"),
+                       folder.Rows("SELECT name, sql FROM sqlite_master ORDER BY name")};
+  };
+  const auto before = all();
+  Start();
+  BackupTo(elsewhere.path() + "/copy.mdb");
+  frame->Unload();
+  frame.reset();
+  ASSERT_TRUE(QFile::remove(folder.DatabasePath()));
+  ASSERT_TRUE(QFile::rename(elsewhere.path() + "/copy.mdb", folder.DatabasePath()));
+  EXPECT_TRUE(all() == before);
+  Start();
+  EXPECT_FALSE(frame->HasEnded());
+  EXPECT_TRUE(Menu("mnuTheme_3").isChecked());
+  EXPECT_TRUE(Menu("mnuToolTips_0").isChecked());
+  EXPECT_TRUE(all() == before);
 }
 
 TEST_F(DatabaseCareTest, ABackupOverTheFileItselfLeavesItWhole)

@@ -10,18 +10,18 @@
 class WithoutRights
 {
 public:
-  WithoutRights() : user_(geteuid())
+  WithoutRights()
   {
     constexpr uid_t kNobody = 65534;
-    done_ = user_ != 0 || seteuid(kNobody) == 0;
+    done_ = !superuser_ || (setresgid(kNobody, kNobody, 0) == 0 && setresuid(kNobody, kNobody, 0) == 0);
   }
-  ~WithoutRights() { done_ = seteuid(user_) == 0; }
+  ~WithoutRights() { done_ = !superuser_ || (setresuid(0, 0, 0) == 0 && setresgid(0, 0, 0) == 0); }
   WithoutRights(const WithoutRights&) = delete;
   WithoutRights& operator=(const WithoutRights&) = delete;
 
   [[nodiscard]] bool Done() const { return done_; }
 
 private:
-  uid_t user_;
+  bool superuser_ = geteuid() == 0;
   bool done_ = false;
 };
