@@ -1,59 +1,24 @@
 // SPDX-FileCopyrightText: 2026 The Quillmark authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "ShellTest.h"
+#include "DatabaseCareTest.h"
 
-#include "platform/Command.h"
 #include "shell/DatabaseCare.h"
 #include "store/DBEngine.h"
-#include "support/FullDisk.h"
-#include "support/WithoutRights.h"
-
-#include <QDir>
-#include <QFileDialog>
-#include <QLineEdit>
-#include <QTimer>
-
-#include <sys/stat.h>
 
 namespace {
 
 const QString kSorry = QStringLiteral("Sorry, your database could not be compacted.");
 constexpr auto kYesNo = QMessageBox::Yes | QMessageBox::No;
 
-class DatabaseCareTest : public ShellTest
+class DatabaseCompacting : public DatabaseCareTest
 {
 protected:
-  void Choose(const char* entry) const
-  {
-    Command::Run([&] { Menu(entry).trigger(); });
-  }
-
   // As the menu does it, while nothing else has the file open.
   static void Compact() { Command::Run(DatabaseCare::Compact); }
 
-  static QByteArray Contents(const QString& path)
-  {
-    QFile file(path);
-    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << path.toStdString();
-    return file.readAll();
-  }
-
-  static void Write(const QString& path, const QByteArray& contents)
-  {
-    QFile file(path);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(contents);
-  }
-
-  static void MakePublic(const QString& path, int mode)
-  {
-    ASSERT_EQ(chmod(path.toUtf8().constData(), static_cast<mode_t>(mode)), 0);
-  }
-
   [[nodiscard]] QString TemporaryPath() const { return folder.File("/Quillmark1.mdb"); }
   [[nodiscard]] qint64 Size() const { return QFile(folder.DatabasePath()).size(); }
-  [[nodiscard]] QByteArray Database() const { return Contents(folder.DatabasePath()); }
 
   static QString Question(qint64 bytes)
   {
@@ -76,50 +41,11 @@ protected:
     DBEngine::CompactDatabase(source, target);
     return QFile(target).size();
   }
-
-  // Makes room in the file that nothing uses.
-  void Waste() const
-  {
-    folder.Execute("INSERT INTO People (PeopleID, FirstName, Notes) VALUES (1, 'Ann', 'kept'), (2, 'Bob', ?)",
-                   {QString(500'000, u'n')});
-    folder.Execute("DELETE FROM People WHERE PeopleID=2");
-  }
-
-  // Opens the dialog for a backup and lets `act` answer it.
-  void Backup(const std::function<void(QFileDialog&)>& act) const
-  {
-    bool seen = false;
-    QTimer::singleShot(0, qApp, [&] {
-      QWidget* widget = QApplication::activeModalWidget();
-      if (auto* dialog = qobject_cast<QFileDialog*>(widget)) {
-        seen = true;
-        act(*dialog);
-      }
-      if (widget != nullptr && widget->isVisible()) {
-        ADD_FAILURE() << "the dialog was not answered";
-        widget->close();
-      }
-    });
-    Choose("mnuBackup");
-    EXPECT_TRUE(seen);
-  }
-
-  // The dialog itself asks nothing on this way.
-  void BackupTo(const QString& path) const
-  {
-    Backup([&](QFileDialog& dialog) {
-      dialog.setOption(QFileDialog::DontConfirmOverwrite);
-      dialog.findChild<QLineEdit*>("fileNameEdit")->setText(path);
-      static_cast<QDialog&>(dialog).accept();
-    });
-  }
-
-  QTemporaryDir elsewhere;
 };
 
 }
 
-TEST_F(DatabaseCareTest, CompactingTellsTheSizesBeforeAndAfter)
+TEST_F(DatabaseCompacting, CompactingTellsTheSizesBeforeAndAfter)
 {
   Waste();
   const qint64 before = Size();
@@ -132,7 +58,7 @@ TEST_F(DatabaseCareTest, CompactingTellsTheSizesBeforeAndAfter)
   EXPECT_FALSE(QFile::exists(TemporaryPath()));
 }
 
-TEST_F(DatabaseCareTest, CompactingKeepsEveryRow)
+TEST_F(DatabaseCompacting, CompactingKeepsEveryRow)
 {
   Waste();
   const auto all = [&] {
@@ -150,7 +76,7 @@ TEST_F(DatabaseCareTest, CompactingKeepsEveryRow)
   EXPECT_EQ(folder.Value("SELECT max(PeopleID) FROM People"), 3) << "keys are never used again";
 }
 
-TEST_F(DatabaseCareTest, CompactingTwiceIsNoFailure)
+TEST_F(DatabaseCompacting, CompactingTwiceIsNoFailure)
 {
   for (int round = 0; round < 2; ++round) {
     ExpectQuestion(QMessageBox::Yes);
@@ -159,7 +85,7 @@ TEST_F(DatabaseCareTest, CompactingTwiceIsNoFailure)
   }
 }
 
-TEST_F(DatabaseCareTest, CompactingLeavesTheFileToItsOwnerAlone)
+TEST_F(DatabaseCompacting, CompactingLeavesTheFileToItsOwnerAlone)
 {
   const QFile::Permissions alone = QFile::ReadOwner | QFile::WriteOwner | QFile::ReadUser | QFile::WriteUser;
   ASSERT_TRUE(QFile::setPermissions(folder.DatabasePath(), alone));
@@ -169,7 +95,7 @@ TEST_F(DatabaseCareTest, CompactingLeavesTheFileToItsOwnerAlone)
   EXPECT_EQ(QFile::permissions(folder.DatabasePath()), alone);
 }
 
-TEST_F(DatabaseCareTest, CompactingKeepsALinkToTheFile)
+TEST_F(DatabaseCompacting, CompactingKeepsALinkToTheFile)
 {
   const QString real = elsewhere.path() + "/real.mdb";
   ASSERT_TRUE(QFile::rename(folder.DatabasePath(), real));
@@ -181,7 +107,7 @@ TEST_F(DatabaseCareTest, CompactingKeepsALinkToTheFile)
   EXPECT_TRUE(QFile::exists(real));
 }
 
-TEST_F(DatabaseCareTest, NoLetsGoOfTheFile)
+TEST_F(DatabaseCompacting, NoLetsGoOfTheFile)
 {
   ExpectQuestion(QMessageBox::No);
   Compact();
@@ -190,7 +116,7 @@ TEST_F(DatabaseCareTest, NoLetsGoOfTheFile)
   Compact();
 }
 
-TEST_F(DatabaseCareTest, TheRunningProgramCompactsAndGoesOnWithTheNewFile)
+TEST_F(DatabaseCompacting, TheRunningProgramCompactsAndGoesOnWithTheNewFile)
 {
   Waste();
   Start();
@@ -204,7 +130,7 @@ TEST_F(DatabaseCareTest, TheRunningProgramCompactsAndGoesOnWithTheNewFile)
   EXPECT_EQ(Option("WindowState"), 1);
 }
 
-TEST_F(DatabaseCareTest, TheRunningProgramCompactsAfterTheRecordEditorWasOpen)
+TEST_F(DatabaseCompacting, TheRunningProgramCompactsAfterTheRecordEditorWasOpen)
 {
   Start();
   frame->OpenPage("frmNew");
@@ -215,7 +141,7 @@ TEST_F(DatabaseCareTest, TheRunningProgramCompactsAfterTheRecordEditorWasOpen)
   Choose("mnuCompact");
 }
 
-TEST_F(DatabaseCareTest, NoLeavesTheFileUntouched)
+TEST_F(DatabaseCompacting, NoLeavesTheFileUntouched)
 {
   Waste();
   const QByteArray before = Database();
@@ -226,7 +152,7 @@ TEST_F(DatabaseCareTest, NoLeavesTheFileUntouched)
   EXPECT_EQ(QDir(folder.Path()).entryList(QDir::Files | QDir::Hidden), files);
 }
 
-TEST_F(DatabaseCareTest, AKilobyteIsAThousandBytesAndPartsOfOneAreCutOff)
+TEST_F(DatabaseCompacting, AKilobyteIsAThousandBytesAndPartsOfOneAreCutOff)
 {
   const QByteArray whole = Database();
   const qint64 kilobytes = whole.size() / 1000 + 1;
@@ -242,7 +168,7 @@ TEST_F(DatabaseCareTest, AKilobyteIsAThousandBytesAndPartsOfOneAreCutOff)
   }
 }
 
-TEST_F(DatabaseCareTest, ALeftOverCopyMakesCompactingFail)
+TEST_F(DatabaseCompacting, ALeftOverCopyMakesCompactingFail)
 {
   for (const QByteArray& contents : {QByteArray("left over"), QByteArray()}) {
     Write(TemporaryPath(), contents);
@@ -255,7 +181,7 @@ TEST_F(DatabaseCareTest, ALeftOverCopyMakesCompactingFail)
   }
 }
 
-TEST_F(DatabaseCareTest, AFileInUseIsNotCompacted)
+TEST_F(DatabaseCompacting, AFileInUseIsNotCompacted)
 {
   const QByteArray before = Database();
   const class Database inUse = DBEngine::OpenDatabase();
@@ -265,7 +191,7 @@ TEST_F(DatabaseCareTest, AFileInUseIsNotCompacted)
   EXPECT_TRUE(Database() == before);
 }
 
-TEST_F(DatabaseCareTest, AFileThatIsMissingOrDamagedIsNotCompacted)
+TEST_F(DatabaseCompacting, AFileThatIsMissingOrDamagedIsNotCompacted)
 {
   ASSERT_TRUE(QFile::remove(folder.DatabasePath()));
   Write(folder.DatabasePath(), QByteArray("Dear diary, today I saw a butterfly.\n").repeated(100));
@@ -279,7 +205,7 @@ TEST_F(DatabaseCareTest, AFileThatIsMissingOrDamagedIsNotCompacted)
   EXPECT_FALSE(QFile::exists(folder.DatabasePath()));
 }
 
-TEST_F(DatabaseCareTest, AFullDiskLeavesTheOldFile)
+TEST_F(DatabaseCompacting, AFullDiskLeavesTheOldFile)
 {
   folder.Execute("INSERT INTO People (FirstName, Notes) VALUES ('Ann', ?)", {QString(200'000, u'n')});
   const QByteArray before = Database();
@@ -292,7 +218,7 @@ TEST_F(DatabaseCareTest, AFullDiskLeavesTheOldFile)
   EXPECT_TRUE(Database() == before);
 }
 
-TEST_F(DatabaseCareTest, AFullDiskKeepsNoRoomForAHalfCopy)
+TEST_F(DatabaseCompacting, AFullDiskKeepsNoRoomForAHalfCopy)
 {
   folder.Execute("INSERT INTO People (FirstName, Notes) VALUES ('Ann', ?)", {QString(200'000, u'n')});
   ExpectQuestion(QMessageBox::Yes);
@@ -307,7 +233,7 @@ TEST_F(DatabaseCareTest, AFullDiskKeepsNoRoomForAHalfCopy)
   Compact();
 }
 
-TEST_F(DatabaseCareTest, AFolderThatMayNotBeWrittenIsNotCompacted)
+TEST_F(DatabaseCompacting, AFolderThatMayNotBeWrittenIsNotCompacted)
 {
   const QByteArray before = Database();
   MakePublic(folder.DatabasePath(), 0666);
@@ -323,7 +249,7 @@ TEST_F(DatabaseCareTest, AFolderThatMayNotBeWrittenIsNotCompacted)
   EXPECT_FALSE(QFile::exists(TemporaryPath()));
 }
 
-TEST_F(DatabaseCareTest, AFileThatMayNotBeWrittenIsNotCompacted)
+TEST_F(DatabaseCompacting, AFileThatMayNotBeWrittenIsNotCompacted)
 {
   const QByteArray before = Database();
   MakePublic(folder.DatabasePath(), 0444);
@@ -338,150 +264,7 @@ TEST_F(DatabaseCareTest, AFileThatMayNotBeWrittenIsNotCompacted)
   EXPECT_FALSE(QFile::exists(TemporaryPath()));
 }
 
-TEST_F(DatabaseCareTest, BackupCopiesTheFileInSilence)
-{
-  Waste();
-  Start();
-  const QByteArray before = Database();
-  BackupTo(elsewhere.path() + "/copy.mdb");
-  EXPECT_TRUE(Contents(elsewhere.path() + "/copy.mdb") == before);
-  EXPECT_TRUE(Database() == before);
-  EXPECT_EQ(QDir(elsewhere.path()).entryList(QDir::Files | QDir::Hidden), QStringList("copy.mdb"));
-  EXPECT_EQ(boxes.Count(), 0U);
-}
-
-TEST_F(DatabaseCareTest, ABackupIsForItsOwnerAloneAsTheFileIs)
-{
-  const QFile::Permissions alone = QFile::ReadOwner | QFile::WriteOwner | QFile::ReadUser | QFile::WriteUser;
-  ASSERT_TRUE(QFile::setPermissions(folder.DatabasePath(), alone));
-  Start();
-  BackupTo(elsewhere.path() + "/copy.mdb");
-  EXPECT_EQ(QFile::permissions(elsewhere.path() + "/copy.mdb"), alone);
-}
-
-TEST_F(DatabaseCareTest, BackupIsOfferedTheNameOfTheFile)
-{
-  Start();
-  Backup([&](QFileDialog& dialog) {
-    EXPECT_EQ(dialog.acceptMode(), QFileDialog::AcceptSave);
-    EXPECT_EQ(dialog.findChild<QLineEdit*>("fileNameEdit")->text(), "quillmark2002.mdb");
-    dialog.setDirectory(elsewhere.path());
-    dialog.findChild<QLineEdit*>("fileNameEdit")->setText("copy");
-    static_cast<QDialog&>(dialog).accept();
-  });
-  EXPECT_TRUE(Contents(elsewhere.path() + "/copy.mdb") == Database()) << "the usual extension is added";
-}
-
-TEST_F(DatabaseCareTest, BackupReplacesAnExistingFileWithoutAsking)
-{
-  Start();
-  const QString target = elsewhere.path() + "/copy.mdb";
-  Write(target, QByteArray(1'000'000, 'x'));
-  Backup([&](QFileDialog& dialog) {
-    EXPECT_TRUE(dialog.testOption(QFileDialog::DontConfirmOverwrite));
-    dialog.reject();
-  });
-  BackupTo(target);
-  EXPECT_TRUE(Contents(target) == Database());
-  EXPECT_EQ(boxes.Count(), 0U);
-}
-
-TEST_F(DatabaseCareTest, ACancelledBackupIsSilent)
-{
-  Start();
-  const QByteArray before = Database();
-  const QStringList files = QDir(folder.Path()).entryList(QDir::Files | QDir::Hidden);
-  Backup([](QFileDialog& dialog) { dialog.reject(); });
-  EXPECT_TRUE(Database() == before);
-  EXPECT_EQ(QDir(folder.Path()).entryList(QDir::Files | QDir::Hidden), files);
-  EXPECT_EQ(boxes.Count(), 0U);
-  EXPECT_FALSE(frame->HasEnded());
-}
-
-TEST_F(DatabaseCareTest, ABackupThatCannotBeWrittenIsSilent)
-{
-  Start();
-  const QByteArray before = Database();
-  BackupTo(elsewhere.path() + "/none/copy.mdb");
-  EXPECT_TRUE(QDir(elsewhere.path()).isEmpty());
-  const QString target = elsewhere.path() + "/copy.mdb";
-  Write(target, "an old backup");
-  for (const qsizetype limit : {qsizetype{10'000}, before.size() - 1}) {
-    const FullDisk disk(static_cast<rlim_t>(limit));
-    BackupTo(target);
-    BackupTo(elsewhere.path() + "/new.mdb");
-  }
-  EXPECT_EQ(Contents(target), "an old backup");
-  EXPECT_EQ(QDir(elsewhere.path()).entryList(QDir::Files | QDir::Hidden), QStringList("copy.mdb"));
-  EXPECT_TRUE(Database() == before);
-  EXPECT_EQ(boxes.Count(), 0U);
-}
-
-TEST_F(DatabaseCareTest, ABackupOverWhatMayNotBeWrittenIsSilentAndLeavesIt)
-{
-  Start();
-  MakePublic(folder.DatabasePath(), 0644);
-  MakePublic(folder.Path(), 0755);
-  const QString target = elsewhere.path() + "/copy.mdb";
-  Write(target, "an old backup");
-  for (const auto& [folderMode, fileMode] : {std::pair(0777, 0444), std::pair(0555, 0666), std::pair(0555, 0444)}) {
-    MakePublic(target, fileMode);
-    MakePublic(elsewhere.path(), folderMode);
-    const WithoutRights rights;
-    ASSERT_TRUE(rights.Done());
-    BackupTo(target);
-    BackupTo(elsewhere.path() + "/none/new.mdb");
-    EXPECT_EQ(Contents(target), "an old backup") << folderMode << ' ' << fileMode;
-    EXPECT_EQ(QDir(elsewhere.path()).entryList(QDir::Files | QDir::Hidden), QStringList("copy.mdb"));
-  }
-  EXPECT_EQ(boxes.Count(), 0U);
-}
-
-TEST_F(DatabaseCareTest, ABackupInThePlaceOfTheFileHoldsEveryRow)
-{
-  Waste();
-  Set("Theme=3, ToolTips=1");
-  folder.Execute("INSERT INTO Ann (Spouse1ID, Spouse2ID) VALUES (1, 1)");
-  const auto all = [&] {
-    return std::vector{folder.Rows("SELECT * FROM People"), folder.Rows("SELECT * FROM Options"),
-                       folder.Rows("SELECT * FROM Ann"), folder.Rows("SELECT * FROM Reminders"),
-                       folder.Rows("SELECT name, sql FROM sqlite_master ORDER BY name")};
-  };
-  const auto before = all();
-  Start();
-  BackupTo(elsewhere.path() + "/copy.mdb");
-  frame->Unload();
-  frame.reset();
-  ASSERT_TRUE(QFile::remove(folder.DatabasePath()));
-  ASSERT_TRUE(QFile::rename(elsewhere.path() + "/copy.mdb", folder.DatabasePath()));
-  EXPECT_TRUE(all() == before);
-  Start();
-  EXPECT_FALSE(frame->HasEnded());
-  EXPECT_TRUE(Menu("mnuTheme_3").isChecked());
-  EXPECT_TRUE(Menu("mnuToolTips_0").isChecked());
-  EXPECT_TRUE(all() == before);
-}
-
-TEST_F(DatabaseCareTest, ABackupOverTheFileItselfLeavesItWhole)
-{
-  Start();
-  const QByteArray before = Database();
-  BackupTo(folder.DatabasePath());
-  EXPECT_TRUE(Database() == before);
-}
-
-TEST_F(DatabaseCareTest, ABackupOfAMissingFileIsSilent)
-{
-  Start();
-  ASSERT_TRUE(QFile::remove(folder.DatabasePath()));
-  const QString target = elsewhere.path() + "/copy.mdb";
-  Write(target, "an old backup");
-  BackupTo(target);
-  EXPECT_EQ(Contents(target), "an old backup");
-  EXPECT_EQ(boxes.Count(), 0U);
-}
-
-TEST_F(DatabaseCareTest, EntriesAreDisabledWhileAPageForbidsThem)
+TEST_F(DatabaseCompacting, EntriesAreDisabledWhileAPageForbidsThem)
 {
   Start();
   const auto enabled = [&] { return Menu("mnuCompact").isEnabled() && Menu("mnuBackup").isEnabled(); };
@@ -493,7 +276,7 @@ TEST_F(DatabaseCareTest, EntriesAreDisabledWhileAPageForbidsThem)
   EXPECT_TRUE(enabled());
 }
 
-TEST_F(DatabaseCareTest, EntriesAreDisabledWhileAnEditorIsOpen)
+TEST_F(DatabaseCompacting, EntriesAreDisabledWhileAnEditorIsOpen)
 {
   Start();
   for (const char* page : {"frmNew", "frmAnn"}) {
@@ -507,7 +290,7 @@ TEST_F(DatabaseCareTest, EntriesAreDisabledWhileAnEditorIsOpen)
   }
 }
 
-TEST_F(DatabaseCareTest, EntriesStayDisabledFromOneEditorToTheOther)
+TEST_F(DatabaseCompacting, EntriesStayDisabledFromOneEditorToTheOther)
 {
   Start();
   frame->OpenPage("frmNew");
