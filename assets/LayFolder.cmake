@@ -21,7 +21,7 @@ file(CHMOD "${FOLDER}" PERMISSIONS OWNER_READ OWNER_WRITE OWNER_EXECUTE)
 # Renamed into place, as a running program's own file cannot be written.
 file(COPY_FILE "${PROGRAM}" "${FOLDER}/quillmark.new")
 file(RENAME "${FOLDER}/quillmark.new" "${FOLDER}/quillmark")
-foreach(name animp.ico hand.cur notices/hapbirth.wav notices/wmfade2.wav notices/jad0044.wav)
+foreach(name Help.hlp animp.ico hand.cur notices/hapbirth.wav notices/wmfade2.wav notices/jad0044.wav)
   file(COPY_FILE "${MADE}/${name}" "${FOLDER}/${name}" ONLY_IF_DIFFERENT)
 endforeach()
 foreach(month jan feb mar apr may jun jul aug sep oct nov dec)

@@ -1,8 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Quillmark authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "AddressCatcher.h"
 #include "OccasionsTest.h"
+
+#include "support/AddressCatcher.h"
 
 #include <QAbstractButton>
 #include <QBuffer>
