@@ -38,6 +38,10 @@ public:
   // open forbids it for as long.
   virtual void AllowDatabaseCare(bool allowed) = 0;
 
+  // Whether the database may be compacted, as far as a window above the page is concerned:
+  // where the page forbids it, it stays forbidden. Nothing by default.
+  virtual void AllowCompaction(bool allowed) { static_cast<void>(allowed); }
+
   // The one-second timer that follows the clips.
   [[nodiscard]] virtual bool TimerEnabled() const = 0;
   virtual void SetTimerEnabled(bool enabled) = 0;

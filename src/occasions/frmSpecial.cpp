@@ -16,6 +16,7 @@
 #include "people/Couples.h"
 #include "people/DateBoxes.h"
 #include "platform/Clock.h"
+#include "platform/HelpViewer.h"
 #include "platform/Months.h"
 #include "platform/MsgBox.h"
 #include "platform/Numeric.h"
@@ -321,6 +322,7 @@ void frmSpecial::lblOptions_Click(int index)
       LeaveFor("frmIntro");
       break;
     case kViewCalendar:
+      HelpViewer::Quit();
       OpenPanel(*ui_->fraCalendar);
       break;
     case kExitCalendar:
@@ -346,8 +348,6 @@ void frmSpecial::lblOptions_Click(int index)
       break;
     case kExitDatabase:
       ui_->fraDatabase->hide();
-      break;
-    default:
       break;
   }
 }

@@ -16,6 +16,7 @@
 #include "platform/Attempt.h"
 #include "platform/Clock.h"
 #include "platform/Command.h"
+#include "platform/HelpViewer.h"
 #include "platform/InputBox.h"
 #include "platform/MsgBox.h"
 #include "ui_frmNew.h"
@@ -29,7 +30,6 @@ namespace {
 
 constexpr int kFinishAddition = 0;
 constexpr int kFinishEdit = 5;
-constexpr int kHelp = 10;
 
 }
 
@@ -46,7 +46,6 @@ frmNew::frmNew()
       addresses_(*ui_->cboStreet)
 {
   lblOptions_.Collect(*this, QStringLiteral("lblOptions"));
-  lblOptions_[kHelp].setEnabled(false);  // until there is help to go to
   ConnectControls();
 }
 
@@ -156,13 +155,11 @@ void frmNew::Form_Resize()
 // that a failure of that ends nothing either.
 void frmNew::lblOptions_Click(int index)
 {
-  static constexpr std::array<void (frmNew::*)(), 10> kCommands = {
-      &frmNew::FinishAddition, &frmNew::CancelAddition, &frmNew::GoToMainPage, &frmNew::SearchForName,
-      &frmNew::CancelEdit,     &frmNew::FinishEdit,     &frmNew::AddNewName,   &frmNew::EditRecord,
-      &frmNew::DeleteRecord,   &frmNew::EditAnniversary};
-  if (static_cast<std::size_t>(index) < kCommands.size()) {
-    (this->*kCommands[static_cast<std::size_t>(index)])();
-  }
+  static constexpr std::array<void (frmNew::*)(), 11> kCommands = {
+      &frmNew::FinishAddition, &frmNew::CancelAddition,  &frmNew::GoToMainPage, &frmNew::SearchForName,
+      &frmNew::CancelEdit,     &frmNew::FinishEdit,      &frmNew::AddNewName,   &frmNew::EditRecord,
+      &frmNew::DeleteRecord,   &frmNew::EditAnniversary, &frmNew::ShowHelp};
+  (this->*kCommands.at(static_cast<std::size_t>(index)))();
   Attempt([] { Command::Settle(); });
 }
 
@@ -358,6 +355,11 @@ void frmNew::EditAnniversary()
     Frame::Current().AllowDatabaseCare(true);
     Forms::Load(QStringLiteral("frmIntro")).Show();
   }
+}
+
+void frmNew::ShowHelp()
+{
+  HelpViewer::ShowContext(HelpViewer::kQuickFill);
 }
 
 void frmNew::GoToMainPage()

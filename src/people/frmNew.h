@@ -64,6 +64,7 @@ private:
   void DeleteRecord();
   void SearchForName();
   void EditAnniversary();
+  void ShowHelp();
   void GoToMainPage();
 
   [[nodiscard]] bool ValidateEntry();

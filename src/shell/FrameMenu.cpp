@@ -8,6 +8,7 @@
 #include "controls/modID.h"
 #include "looks/modThemes.h"
 #include "looks/modToolTips.h"
+#include "platform/HelpViewer.h"
 #include "platform/RuntimeError.h"
 #include "reminders/modTextNotices.h"
 #include "shell/DatabaseCare.h"
@@ -65,6 +66,7 @@ void FrameMenu::ConnectControls()
   connect(ui_.mnuCompact, &QAction::triggered, this, [] { DatabaseCare::Compact(); });
   connect(ui_.mnuBackup, &QAction::triggered, this, [] { DatabaseCare::Backup(); });
   connect(ui_.mnuAnn, &QAction::triggered, this, &FrameMenu::mnuAnn_Click);
+  connect(ui_.mnuContents, &QAction::triggered, this, &FrameMenu::mnuContents_Click);
 }
 
 void FrameMenu::ConnectPage(QAction* action, const char* page)
@@ -134,6 +136,17 @@ void FrameMenu::mnuAnn_Click()
   if (PageSwitch::OpenPage(QStringLiteral("frmAnn"))) {
     modID::SelectedPersonID = 0;
   }
+}
+
+// The month calendar of the occasions is not to stand over the help.
+void FrameMenu::mnuContents_Click()
+{
+  const Form* occasions = Forms::Loaded(QStringLiteral("frmSpecial"));
+  QWidget* calendar = occasions == nullptr ? nullptr : occasions->Control(QStringLiteral("fraCalendar"));
+  if (calendar != nullptr) {
+    calendar->hide();
+  }
+  HelpViewer::ShowContents();
 }
 
 void FrameMenu::mnuToolTips_Click(int index)

@@ -32,6 +32,7 @@ private Q_SLOTS:
   void mnuToolTips_Click(int index);
   void mnuTheme_Click(int index);
   void mnuAnn_Click();
+  void mnuContents_Click();
 
 private:
   void ConnectControls();

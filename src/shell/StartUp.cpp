@@ -12,12 +12,14 @@
 #include "reminders/frmNotice.h"
 #include "reminders/frmTextNotice.h"
 #include "shell/frmAutoStart.h"
+#include "shell/frmAbout.h"
 #include "shell/frmIntro.h"
 #include "shell/mdiQuillmark.h"
 
 void RegisterForms()
 {
   Forms::Register(QStringLiteral("frmIntro"), [] { return new frmIntro; });
+  Forms::Register(QStringLiteral("frmAbout"), [] { return new frmAbout; });
   Forms::Register(QStringLiteral("frmAnn"), [] { return new frmAnn; });
   Forms::Register(QStringLiteral("frmAutoStart"), [] { return new frmAutoStart; });
   Forms::Register(QStringLiteral("frmNew"), [] { return new frmNew; });

@@ -9,6 +9,7 @@
 #include "platform/App.h"
 #include "platform/Attempt.h"
 #include "platform/Clock.h"
+#include "platform/HelpViewer.h"
 #include "platform/LoadPicture.h"
 #include "platform/MediaDevice.h"
 #include "platform/MsgBox.h"
@@ -191,8 +192,20 @@ void mdiQuillmark::OpenPage(const QString& name)
 
 void mdiQuillmark::AllowDatabaseCare(bool allowed)
 {
-  ui_->mnuCompact->setEnabled(allowed);
+  careAllowed_ = allowed;
   ui_->mnuBackup->setEnabled(allowed);
+  EnableCompaction();
+}
+
+void mdiQuillmark::AllowCompaction(bool allowed)
+{
+  compactionAllowed_ = allowed;
+  EnableCompaction();
+}
+
+void mdiQuillmark::EnableCompaction()
+{
+  ui_->mnuCompact->setEnabled(careAllowed_ && compactionAllowed_);
 }
 
 bool mdiQuillmark::TimerEnabled() const
@@ -265,6 +278,7 @@ bool mdiQuillmark::QueryUnload()
   Database database = DBEngine::OpenDatabase();
   const auto options = Options::Open(database);
   tmrTimer_.stop();
+  HelpViewer::Quit();
   MediaDevice::Close();
   WriteState(*options);
   return true;

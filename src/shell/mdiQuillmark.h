@@ -41,6 +41,7 @@ public:
   void PlacePage(Form& page) override;
   void OpenPage(const QString& name) override;
   void AllowDatabaseCare(bool allowed) override;
+  void AllowCompaction(bool allowed) override;
   [[nodiscard]] bool TimerEnabled() const override;
   void SetTimerEnabled(bool enabled) override;
 
@@ -58,12 +59,15 @@ private:
   void Centre();
   bool QueryUnload();
   void MustBeLoaded();
+  void EnableCompaction();
   void WriteState(Recordset& options) const;
 
   std::unique_ptr<Ui::mdiQuillmark> ui_;
   std::unique_ptr<Store> store_;
   FrameMenu menu_;
   QTimer tmrTimer_;
+  bool careAllowed_ = true;
+  bool compactionAllowed_ = true;
   bool guarded_ = false;  // the guards have spoken, also if the load failed behind them
   bool loaded_ = false;
   bool ended_ = false;

@@ -19,6 +19,7 @@ constexpr int kPatience = 30000;
 constexpr double kAlike = 0.85;
 const QString kNotices = QStringLiteral("Quillmark Reminders...");
 const QString kFrame = QStringLiteral("Quillmark");
+const QString kHelp = QStringLiteral("Quillmark Help");
 
 QString InsertBirthdayToday()
 {
@@ -279,4 +280,23 @@ TEST(Desktop, ExitProgramEndsIt)
   ASSERT_TRUE(frame);
   desktop.ClickAt(*frame, 80, 487);
   EndsWith(*program, 0);
+}
+
+TEST(Desktop, TheHelpGoesWithTheProgramAndLeavesNothingBehind)
+{
+  const QTemporaryDir temporary;
+  VirtualDesktop desktop;
+  desktop.SetEnvironment("TMPDIR", temporary.path());
+  const QStringList before = QDir(desktop.Folder()).entryList();
+  const auto program = desktop.StartProgram();
+  const auto frame = desktop.AwaitWindow(*program, kFrame);
+  ASSERT_TRUE(frame);
+  desktop.Press(*frame, "F1");
+  ASSERT_TRUE(desktop.AwaitWindow(*program, kHelp));
+  const QStringList made = {"Quillmark-*"};
+  EXPECT_EQ(QDir(temporary.path()).entryList(made, QDir::Dirs).size(), 1);
+  desktop.Run("wmctrl", {"-i", "-c", *frame});
+  EndsWith(*program, 0);
+  EXPECT_TRUE(QDir(temporary.path()).entryList(made, QDir::Dirs).isEmpty());
+  EXPECT_EQ(QDir(desktop.Folder()).entryList(), before);
 }

@@ -3,7 +3,9 @@
 
 #include "OccasionsTest.h"
 
+#include "platform/HelpViewer.h"
 #include "support/AddressCatcher.h"
+#include "support/HelpOnScreen.h"
 
 #include <QAbstractButton>
 #include <QBuffer>
@@ -425,4 +427,18 @@ TEST_F(SpecialPanels, APictureThemeIsAppliedAtTheLoad)
   EXPECT_TRUE(IsShown("picThemes"));
   EXPECT_EQ(Marked("shpMonth"), 1);
   EXPECT_FALSE(IsShown("Shape15"));
+}
+
+TEST_F(SpecialPanels, TheCalendarClosesTheHelpAndOtherPanelsLeaveIt)
+{
+  HelpOnScreen::Lay(folder.Path());
+  Open();
+  HelpViewer::ShowContents();
+  for (const char* other : {"lblOptions_4", "lblOptions_3", "lblOptions_5", "lblOptions_9"}) {
+    Click(other);
+    EXPECT_NE(HelpOnScreen::Window(), nullptr) << other;
+  }
+  Click("lblOptions_1");
+  EXPECT_EQ(HelpOnScreen::Window(), nullptr);
+  EXPECT_TRUE(IsShown("fraCalendar"));
 }

@@ -128,6 +128,7 @@ inline const QString kAdd = QStringLiteral("lblOptions_6");
 inline const QString kEdit = QStringLiteral("lblOptions_7");
 inline const QString kDelete = QStringLiteral("lblOptions_8");
 inline const QString kAnniversary = QStringLiteral("lblOptions_9");
+inline const QString kHelp = QStringLiteral("lblOptions_10");
 
 }
 

@@ -3,6 +3,9 @@
 
 #include "PeopleTest.h"
 
+#include "platform/HelpViewer.h"
+#include "support/HelpOnScreen.h"
+
 using namespace PeopleTexts;
 
 namespace {
@@ -30,7 +33,7 @@ protected:
                              "lblOptions_7", "lblOptions_8"}) {
       EXPECT_EQ(Control(name).isEnabled(), browses) << name;
     }
-    for (const QString& name : {kMain, kAnniversary}) {
+    for (const QString& name : {kMain, kAnniversary, kHelp}) {
       EXPECT_TRUE(Control(name).isEnabled()) << name.toStdString();
     }
     for (const char* name : {"cmdAddPic", "cmdDeletePic"}) {
@@ -89,10 +92,34 @@ TEST_F(EditorModes, TheTwoPanelsStandAtOnePlace)
   EXPECT_EQ(Control("fraAdd").geometry(), Control("fraEdit").geometry());
 }
 
-TEST_F(EditorModes, TheHelpCannotBeAskedForBeforeThereIsOne)
+TEST_F(EditorModes, TheHelpOpensAtQuickFillInEveryMode)
+{
+  HelpOnScreen::Lay(folder.Path());
+  OpenWithThree();
+  for (const auto& [begin, mode] :
+       {std::pair(QString(), Mode::kBrowse), std::pair(kAdd, Mode::kAdding), std::pair(kEdit, Mode::kEditing)}) {
+    if (!begin.isEmpty()) {
+      Click(begin);
+    }
+    Click(kHelp);
+    EXPECT_EQ(HelpOnScreen::Page(), "quick-fill.html");
+    ExpectMode(mode);
+    HelpViewer::Quit();
+    if (mode == Mode::kAdding) {
+      Click(kCancelAdd);
+    }
+  }
+}
+
+TEST_F(EditorModes, WithoutAHelpFileTheModeAndTheTextStand)
 {
   OpenWithThree();
-  EXPECT_FALSE(Control("lblOptions_10").isEnabled());
+  Click(kAdd);
+  FillNames("Dan", "Dunn");
+  boxes.Expect("Sorry, the help cannot be shown, because its file is missing or damaged.");
+  Click(kHelp);
+  ExpectMode(Mode::kAdding);
+  EXPECT_EQ(Name(), "Dan Dunn");
 }
 
 TEST_F(EditorModes, AFinishedAdditionBrowses)
