@@ -7,6 +7,7 @@
 #include "looks/modThemes.h"
 #include "looks/modToolTips.h"
 #include "platform/App.h"
+#include "platform/HelpViewer.h"
 #include "platform/LoadPicture.h"
 #include "platform/MediaDevice.h"
 #include "platform/Screen.h"
@@ -57,7 +58,6 @@ frmNotice::frmNotice()
   chkTextAudio_.Collect(*this, QStringLiteral("chkTextAudio"));
   tmrTimerPreview_.setObjectName(QStringLiteral("tmrTimerPreview"));
   tmrTimerPreview_.setInterval(kTimerMilliseconds);
-  lblOptions_[kWhyUseReminders].setEnabled(false);  // HELP: to be called in lblOptions_Click once there is a viewer
   ConnectControls();
 }
 
@@ -134,7 +134,9 @@ void frmNotice::lblOptions_Click(int index)
 {
   if (index == kDone) {
     Unload();
-  } else if (index != kWhyUseReminders) {
+  } else if (index == kWhyUseReminders) {
+    HelpViewer::ShowContents();
+  } else {
     Preview(kAllKinds[static_cast<std::size_t>(index - 1)]);
   }
 }

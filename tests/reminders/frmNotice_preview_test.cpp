@@ -4,7 +4,9 @@
 #include "NoticePageTest.h"
 #include "SilentClip.h"
 
+#include "platform/HelpViewer.h"
 #include "reminders/Clips.h"
+#include "support/HelpOnScreen.h"
 
 #include <QTimer>
 
@@ -93,9 +95,11 @@ TEST_F(NoticePreview, APreviewLeavesTheQueueOfTheCheckAlone)
   EXPECT_FALSE(frame.timer);
 }
 
-TEST_F(NoticePreview, WhyUseRemindersIsThereWithoutHelp)
+TEST_F(NoticePreview, WhyUseRemindersOpensTheHelp)
 {
-  const QWidget& why = Drive::Control(Open(), "lblOptions_4");
-  EXPECT_TRUE(why.isVisible());
-  EXPECT_FALSE(why.isEnabled());
+  HelpOnScreen::Lay(folder.Path());
+  Drive::Click(Open(), "lblOptions_4");
+  EXPECT_EQ(HelpOnScreen::WindowCount(), 1);
+  EXPECT_EQ(HelpOnScreen::Page(), "index.html");
+  HelpViewer::Quit();
 }
