@@ -22,8 +22,12 @@ QString UsualText(int number)
       return QStringLiteral("Invalid use of Null");
     case ErrorNumber::kObjectUnloaded:
       return QStringLiteral("Object was unloaded");
+    case ErrorNumber::kSetWithinPage:
+      return QStringLiteral("Property cannot be set within a page");
     case ErrorNumber::kInvalidPicture:
       return QStringLiteral("Invalid picture");
+    case ErrorNumber::kPrinter:
+      return QStringLiteral("Printer error");
     default:
       return QStringLiteral("Unexpected error");
   }

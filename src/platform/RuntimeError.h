@@ -39,7 +39,9 @@ inline constexpr int kFileAccess = 75;
 inline constexpr int kInvalidUseOfNull = 94;
 inline constexpr int kNoSuchElement = 340;
 inline constexpr int kObjectUnloaded = 364;
+inline constexpr int kSetWithinPage = 396;
 inline constexpr int kInvalidPicture = 481;
+inline constexpr int kPrinter = 482;
 inline constexpr int kCancelled = 32755;
 }
 

@@ -43,7 +43,9 @@ TEST(RuntimeError, EveryNumberHasItsText)
       {ErrorNumber::kFileAccess, "Path/File access error"},
       {ErrorNumber::kInvalidUseOfNull, "Invalid use of Null"},
       {ErrorNumber::kObjectUnloaded, "Object was unloaded"},
+      {ErrorNumber::kSetWithinPage, "Property cannot be set within a page"},
       {ErrorNumber::kInvalidPicture, "Invalid picture"},
+      {ErrorNumber::kPrinter, "Printer error"},
   };
   for (const auto& [number, text] : kCases) {
     try {

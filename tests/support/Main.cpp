@@ -17,6 +17,7 @@ int main(int argc, char** argv)
   if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
   }
+  qputenv("CUPS_SERVER", "/nonexistent");  // no printer of this machine is printed on
   testing::InitGoogleTest(&argc, argv);
   Application application(argc, argv);
   return RUN_ALL_TESTS();
