@@ -8,7 +8,6 @@
 #include "controls/TextBox.h"
 #include "people/EntryRules.h"
 
-#include <QInputMethodEvent>
 #include <QKeyEvent>
 
 #include <algorithm>
@@ -21,57 +20,31 @@ constexpr std::array<const char*, 8> kLimited = {"txtFirst", "txtLast", "txtStre
 constexpr std::array<const char*, 4> kUnlimited = {"txtPhone", "txtMobile", "txtBus", "txtEmail"};
 constexpr auto kPostal = "txtPostal";
 
-bool IsLimited(const QObject& box)
-{
-  return std::any_of(kLimited.begin(), kLimited.end(),
-                     [&](const char* name) { return box.objectName() == QLatin1String(name); });
-}
-
 bool IsForward(int key)
 {
   return key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Down;
 }
 
-// True for what would put a character into a box. Shortcuts do not.
-bool IsCharacter(const QKeyEvent& key)
-{
-  const Qt::KeyboardModifiers held = key.modifiers() & ~Qt::KeyboardModifiers(Qt::ShiftModifier);
-  return held != Qt::ControlModifier && !key.text().isEmpty() && key.text().front().category() != QChar::Other_Control;
 }
 
-bool Types(const QEvent& event)
+EntryKeys::EntryKeys(Form& form) : QObject(&form), form_(form), limit_(EntryRules::kMaxLength)
 {
-  if (event.type() == QEvent::InputMethod) {
-    return !static_cast<const QInputMethodEvent&>(event).commitString().isEmpty();
-  }
-  return event.type() == QEvent::KeyPress && IsCharacter(static_cast<const QKeyEvent&>(event));
-}
-
-bool IsFull(const TextBox& box)
-{
-  return EntryRules::LengthOf(box.Text()) >= EntryRules::kMaxLength;
-}
-
-}
-
-EntryKeys::EntryKeys(Form& form) : QObject(&form), form_(form)
-{
-  const auto watch = [&](const char* name) { form.Control(QLatin1String(name))->installEventFilter(this); };
+  const auto box = [&](const char* name) { return static_cast<TextBox*>(form.Control(QLatin1String(name))); };
+  const auto watch = [&](const char* name) { box(name)->installEventFilter(this); };
   std::for_each(kLimited.begin(), kLimited.end(), watch);
   std::for_each(kUnlimited.begin(), kUnlimited.end(), watch);
+  std::for_each(kLimited.begin(), kLimited.end(), [&](const char* name) { limit_.Join(*box(name)); });
 }
 
 bool EntryKeys::eventFilter(QObject* watched, QEvent* event)
 {
-  auto& box = static_cast<TextBox&>(*watched);
-  if (event->type() == QEvent::KeyPress) {
-    const auto& key = static_cast<const QKeyEvent&>(*event);
-    currentTabIndex_ = box.TabIndex();
-    if (box.objectName() == QLatin1String(kPostal) ? WalkFromPostal(key) : Walk(key)) {
-      return true;
-    }
+  if (event->type() != QEvent::KeyPress) {
+    return false;
   }
-  return Types(*event) && IsLimited(box) && IsFull(box);
+  const auto& box = static_cast<TextBox&>(*watched);
+  const auto& key = static_cast<const QKeyEvent&>(*event);
+  currentTabIndex_ = box.TabIndex();
+  return box.objectName() == QLatin1String(kPostal) ? WalkFromPostal(key) : Walk(key);
 }
 
 bool EntryKeys::Walk(const QKeyEvent& key)

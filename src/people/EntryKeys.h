@@ -3,11 +3,10 @@
 
 #pragma once
 
-#include <QObject>
+#include "controls/TypingLimit.h"
 
 class Form;
 class QKeyEvent;
-class TextBox;
 
 // The keyboard on the boxes of the record editor: Enter and the arrow keys walk from box
 // to box, and typing ends at the longest text that a box may hold.
@@ -28,5 +27,6 @@ private:
   void FocusBoxAt(int tabIndex) const;
 
   Form& form_;
+  TypingLimit limit_;
   int currentTabIndex_ = 0;
 };

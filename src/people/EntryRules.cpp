@@ -3,7 +3,7 @@
 
 #include "people/EntryRules.h"
 
-#include <algorithm>
+#include "platform/Characters.h"
 
 namespace EntryRules {
 namespace {
@@ -12,10 +12,10 @@ using Rule = std::optional<Refusal> (*)(Entry& entry);
 
 std::optional<Refusal> RequireNames(Entry& entry)
 {
-  if (IsBlank(entry.firstName)) {
+  if (Characters::IsBlank(entry.firstName)) {
     return Refusal{QStringLiteral("A first name must be entered, or click Cancel"), Box::kFirstName};
   }
-  if (IsBlank(entry.lastName)) {
+  if (Characters::IsBlank(entry.lastName)) {
     return Refusal{QStringLiteral("A last name must be entered, or click Cancel"), Box::kLastName};
   }
   return std::nullopt;
@@ -31,10 +31,10 @@ std::optional<Refusal> RequireGender(Entry& entry)
 
 std::optional<Refusal> CheckSecondAddress(Entry& entry)
 {
-  if (IsBlank(entry.secondAddress)) {
+  if (Characters::IsBlank(entry.secondAddress)) {
     entry.secondAddress.clear();
   }
-  if (IsBlank(entry.street) && !entry.secondAddress.isEmpty()) {
+  if (Characters::IsBlank(entry.street) && !entry.secondAddress.isEmpty()) {
     return Refusal{QStringLiteral("Please fill in Address 1 before using Address 2"), Box::kStreet};
   }
   return std::nullopt;
@@ -53,27 +53,13 @@ std::optional<Refusal> CheckLengths(Entry& entry)
       {entry.postal, "zip or postal code"},
   };
   for (const auto& [text, what] : limited) {
-    if (LengthOf(text) > kMaxLength) {
+    if (Characters::LengthOf(text) > kMaxLength) {
       return Refusal{QStringLiteral("You cannot enter more than 30 characters for a %1").arg(QLatin1String(what))};
     }
   }
   return std::nullopt;
 }
 
-}
-
-bool IsBlank(const QString& text)
-{
-  return std::all_of(text.begin(), text.end(), [](QChar character) { return character == QLatin1Char(' '); });
-}
-
-int LengthOf(const QString& text)
-{
-  int length = 0;
-  for (const QChar unit : text) {
-    length += unit.isLowSurrogate() ? 0 : 1;
-  }
-  return length;
 }
 
 std::optional<Refusal> ValidateEntry(Entry& entry, QDate today)

@@ -13,12 +13,6 @@ namespace EntryRules {
 // Longest text, in characters, of a name and of a part of an address.
 inline constexpr int kMaxLength = 30;
 
-// Characters of Unicode, so that no letter or picture counts more for how it is encoded.
-[[nodiscard]] int LengthOf(const QString& text);
-
-// True if there is nothing but blanks; other white space is something.
-[[nodiscard]] bool IsBlank(const QString& text);
-
 // What stands in the boxes.
 struct Entry
 {

@@ -6,6 +6,7 @@
 #include "controls/EntryBox.h"
 #include "controls/Form.h"
 #include "platform/Attempt.h"
+#include "platform/Characters.h"
 #include "store/Database.h"
 
 #include <array>
@@ -52,7 +53,7 @@ bool LeavesNull(const Bound& bound, const QString& text)
 {
   switch (bound.empty) {
     case Empty::kNullIfBlank:
-      return EntryRules::IsBlank(text);
+      return Characters::IsBlank(text);
     case Empty::kNullIfEmpty:
       return text.isEmpty();
     case Empty::kText:

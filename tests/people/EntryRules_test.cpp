@@ -7,7 +7,6 @@
 
 using EntryRules::Box;
 using EntryRules::Entry;
-using EntryRules::LengthOf;
 using EntryRules::Refusal;
 using EntryRules::ValidateEntry;
 
@@ -169,23 +168,6 @@ TEST(EntryRules, BlanksAtTheEndsCount)
   EXPECT_EQ(MessageOf(entry), "You cannot enter more than 30 characters for a city");
   entry.city = QString(31, u' ');
   EXPECT_EQ(MessageOf(entry), "You cannot enter more than 30 characters for a city");
-}
-
-TEST(EntryRules, CharactersAreThoseOfTheUser)
-{
-  EXPECT_EQ(LengthOf(""), 0);
-  EXPECT_EQ(LengthOf("Ann"), 3);
-  EXPECT_EQ(LengthOf(" a "), 3);
-  EXPECT_EQ(LengthOf("é"), 1);
-  EXPECT_EQ(LengthOf("茶茶"), 2);
-  EXPECT_EQ(LengthOf("🎂🎂"), 2);
-  EXPECT_EQ(LengthOf(QString(100'000, u'n')), 100'000);
-}
-
-TEST(EntryRules, AnAccentOfItsOwnIsACharacter)
-{
-  EXPECT_EQ(LengthOf("e\u0301"), 2);
-  EXPECT_EQ(LengthOf("\u00e9"), 1);
 }
 
 TEST(EntryRules, CharactersOutsideTheFirstPlaneCountOnce)
