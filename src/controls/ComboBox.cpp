@@ -117,10 +117,11 @@ void ComboBox::MakeEditable()
   setInsertPolicy(QComboBox::NoInsert);
   setCompleter(nullptr);
   lineEdit()->setReadOnly(locked_);
+  const Qt::ContextMenuPolicy menu = typing_ == AnyText ? Qt::DefaultContextMenu : Qt::NoContextMenu;
   // The box would show the menu of its text in the text's place.
-  setContextMenuPolicy(Qt::NoContextMenu);
-  lineEdit()->setContextMenuPolicy(Qt::NoContextMenu);
-  lineEdit()->setAcceptDrops(false);
+  setContextMenuPolicy(menu);
+  lineEdit()->setContextMenuPolicy(menu);
+  lineEdit()->setAcceptDrops(typing_ == AnyText);
   lineEdit()->installEventFilter(this);
   lineEdit()->setValidator(typing_ == TypedLines ? new BeginningOfALine(*lines_, lineEdit()) : nullptr);
   // The toolkit would choose the line of a typed text when the box is left.
@@ -179,9 +180,9 @@ bool ComboBox::eventFilter(QObject* watched, QEvent* event)
 {
   const QEvent::Type type = event->type();
   if (watched == lineEdit() && type == QEvent::InputMethod) {
-    return typing_ != TypedLines;
+    return !TakesTyping();
   }
-  if (watched != lineEdit() || locked_ || !IsMouseButton(type)) {
+  if (watched != lineEdit() || locked_ || typing_ == AnyText || !IsMouseButton(type)) {
     return QComboBox::eventFilter(watched, event);
   }
   const bool isLeft = static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton;
@@ -228,7 +229,7 @@ void ComboBox::keyPressEvent(QKeyEvent* event)
   if (Steps(event->key())) {
     StandOnText();
   }
-  const bool takesAll = typing_ == Listed || typing_ == TypedLines;
+  const bool takesAll = typing_ == Listed || TakesTyping();
   if ((takesAll && !locked_) || Passes(*event)) {
     QComboBox::keyPressEvent(event);
   } else if (event->text().isEmpty() || event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter ||
@@ -239,7 +240,7 @@ void ComboBox::keyPressEvent(QKeyEvent* event)
 
 void ComboBox::inputMethodEvent(QInputMethodEvent* event)
 {
-  if (typing_ == Listed || (typing_ == TypedLines && !locked_)) {
+  if (typing_ == Listed || (TakesTyping() && !locked_)) {
     QComboBox::inputMethodEvent(event);
   }
 }

@@ -19,13 +19,15 @@ class ComboBox : public QComboBox, public EntryBox
 
 public:
   // What keys do to the text of a box that can show other texts than its lines. The
-  // list opens by a click, and the arrow keys step through it, whatever the kind.
+  // list opens by a click, on the arrow where any text can be typed, and the arrow keys
+  // step through it, whatever the kind.
   enum TypingKind
   {
     Listed,         // shows its lines only
     BackspaceOnly,  // the text can be shortened
     NoTyping,
     TypedLines,  // the text of a line can be typed, which does not choose the line
+    AnyText,     // any text can be typed or pasted; none chooses a line
   };
   Q_ENUM(TypingKind)
 
@@ -67,6 +69,7 @@ protected:
 private:
   void MakeEditable();
   void StandOnText();
+  [[nodiscard]] bool TakesTyping() const { return typing_ == TypedLines || typing_ == AnyText; }
   [[nodiscard]] bool Passes(const QKeyEvent& event) const;
 
   LinesModel* lines_;
