@@ -126,4 +126,15 @@ QStringList ReadLines(const QString& path)
   return lines;
 }
 
+QByteArray ReadFile(const QString& path)
+{
+  QFile file(path);
+  OpenForReading(file);
+  QByteArray contents = file.readAll();
+  if (file.error() != QFileDevice::NoError) {
+    RaiseError(ErrorNumber::kFileAccess);
+  }
+  return contents;
+}
+
 }

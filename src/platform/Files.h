@@ -35,4 +35,7 @@ void Commit(QSaveFile& file);
 // The lines of a UTF-8 text file, without their line ends.
 [[nodiscard]] QStringList ReadLines(const QString& path);
 
+// All bytes of a file.
+[[nodiscard]] QByteArray ReadFile(const QString& path);
+
 }

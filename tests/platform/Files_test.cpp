@@ -70,6 +70,7 @@ TEST_F(FilesInAFolder, WhatIsNotThereIsMissing)
     EXPECT_EQ(ErrorOf([&] { Files::CopyFile(Path(name), Path("new")); }), ErrorNumber::kFileNotFound);
     EXPECT_EQ(ErrorOf([&] { Files::CopyFile(Path(name), Path("target")); }), ErrorNumber::kFileNotFound);
     EXPECT_EQ(ErrorOf([&] { static_cast<void>(Files::ReadLines(Path(name))); }), ErrorNumber::kFileNotFound);
+    EXPECT_EQ(ErrorOf([&] { static_cast<void>(Files::ReadFile(Path(name))); }), ErrorNumber::kFileNotFound);
   }
   EXPECT_EQ(Contents("target"), "old");
   EXPECT_EQ(Entries(), QStringList({"target"}));
@@ -82,6 +83,7 @@ TEST_F(FilesInAFolder, AFolderIsNoFile)
   EXPECT_NE(ErrorOf([&] { Files::DeleteFile(Path("inner")); }), 0);
   EXPECT_NE(ErrorOf([&] { Files::CopyFile(Path("inner"), Path("new")); }), 0);
   EXPECT_NE(ErrorOf([&] { static_cast<void>(Files::ReadLines(Path("inner"))); }), 0);
+  EXPECT_NE(ErrorOf([&] { static_cast<void>(Files::ReadFile(Path("inner"))); }), 0);
   EXPECT_EQ(ErrorOf([&] { Files::CopyFile(Path("source"), Path("inner")); }), ErrorNumber::kFileAccess);
   EXPECT_EQ(Entries(), QStringList({"inner", "source"}));
 }
@@ -293,6 +295,21 @@ TEST_F(FilesInAFolder, ReadLinesGivesLinesWithoutTheirEnds)
   for (const auto& [contents, lines] : kCases) {
     Write("file", contents);
     EXPECT_EQ(Files::ReadLines(Path("file")), lines) << contents;
+  }
+}
+
+TEST_F(FilesInAFolder, ReadFileGivesEveryByte)
+{
+  QByteArray bytes;
+  for (int i = 0; i < 100'000; ++i) {
+    bytes.append(static_cast<char>(i % 251));
+  }
+  for (const QByteArray& contents : {QByteArray(), QByteArray("one\r\ntwo\n"), bytes}) {
+    QFile file(Path("file"));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(contents);
+    file.close();
+    EXPECT_EQ(Files::ReadFile(Path("file")), contents);
   }
 }
 
