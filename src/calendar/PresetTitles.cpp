@@ -21,7 +21,7 @@ QString Decoded(const QByteArray& contents)
   // Stateless, so that a character that is cut off at the end is an error too.
   QStringDecoder unicode(QStringConverter::encodingForData(contents).value_or(QStringConverter::Utf8),
                          QStringConverter::Flag::Stateless);
-  const QString text = unicode.decode(contents);
+  QString text = unicode.decode(contents);
   if (!unicode.hasError()) {
     return text;
   }
