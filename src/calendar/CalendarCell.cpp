@@ -51,15 +51,18 @@ QWidget* MarkOnCalendar()
   return Find(QStringLiteral("picSelect"));
 }
 
-void Redraw(int index, Database& database, const QString& month)
+void Redraw(int index, const std::vector<CalendarEvent>& events)
 {
   ListBox* cell = OnCalendar(index);
   if (cell == nullptr) {
     return;
   }
-  const QDate date = QDate::fromString(modResize::TagOf(*cell), Qt::ISODate);
   cell->Clear();
-  Add(*cell, CalendarEvents::On(database, month, date));
+  if (events.empty()) {
+    cell->hide();
+  } else {
+    Add(*cell, events);
+  }
 }
 
 }

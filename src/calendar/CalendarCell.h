@@ -23,8 +23,8 @@ void Add(ListBox& cell, const std::vector<CalendarEvent>& events);
 [[nodiscard]] ListBox* OnCalendar(int index);
 [[nodiscard]] QWidget* MarkOnCalendar();
 
-// Gives the cell of the open calendar the events of its date in the named month, and shows
-// it. Nothing without the page.
-void Redraw(int index, Database& database, const QString& month);
+// Gives a cell of the open calendar page these events, which are those of its date, in place
+// of what it had; without any it is hidden. Nothing without the page.
+void Redraw(int index, const std::vector<CalendarEvent>& events);
 
 }

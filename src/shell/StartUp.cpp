@@ -4,6 +4,7 @@
 #include "shell/StartUp.h"
 
 #include "anniversaries/frmAnn.h"
+#include "calendar/frmCalEdit.h"
 #include "calendar/frmReminders.h"
 #include "controls/Forms.h"
 #include "lookup/frmQuillmark.h"
@@ -22,6 +23,7 @@ void RegisterForms()
   Forms::Register(QStringLiteral("frmAbout"), [] { return new frmAbout; });
   Forms::Register(QStringLiteral("frmAnn"), [] { return new frmAnn; });
   Forms::Register(QStringLiteral("frmAutoStart"), [] { return new frmAutoStart; });
+  Forms::Register(QStringLiteral("frmCalEdit"), [] { return new frmCalEdit; });
   Forms::Register(QStringLiteral("frmNew"), [] { return new frmNew; });
   Forms::Register(QStringLiteral("frmQuillmark"), [] { return new frmQuillmark; });
   Forms::Register(QStringLiteral("frmReminders"), [] { return new frmReminders; });

@@ -51,6 +51,7 @@ const std::multimap<QString, QString> kLaterTexts = {
     {QStringLiteral("frmNotice.lblTextAudio"), QStringLiteral("Text and audio notification.")},
     {QStringLiteral("frmNotice.lblTextAudioAnn"), QStringLiteral("Text and audio notification.")},
     {QStringLiteral("frmNotice.lblTextAudioCal"), QStringLiteral("Text and audio notification.")},
+    {QStringLiteral("frmCalEdit.lblDate"), QStringLiteral("Delete an event for September 30, 2026")},
     {QStringLiteral("frmNew.lblValues"), QStringLiteral(" 100000 of 100000 people")},
     {QStringLiteral("frmNew.lblCompleteAnn"), QStringLiteral("September 30 2026")},
 };
