@@ -3,7 +3,7 @@
 
 #include "store/Connection.h"
 
-#include "platform/TextOrder.h"
+#include "store/ConnectionSetup.h"
 #include "store/SchemaReader.h"
 #include "store/StoreError.h"
 
@@ -14,8 +14,6 @@
 #include <sys/stat.h>
 
 namespace {
-
-constexpr int kPatienceMilliseconds = 1000;
 
 using FileIdentity = std::pair<dev_t, ino_t>;
 
@@ -33,12 +31,6 @@ std::optional<FileIdentity> IdentityOf(const QString& path)
     return std::nullopt;
   }
   return FileIdentity(status.st_dev, status.st_ino);
-}
-
-int CompareTexts(void*, int size, const void* text, int otherSize, const void* other)
-{
-  return TextOrder::Compare({static_cast<const char*>(text), static_cast<std::size_t>(size)},
-                            {static_cast<const char*>(other), static_cast<std::size_t>(otherSize)});
 }
 
 }
@@ -82,10 +74,7 @@ void Connection::Open(const QString& path)
   if (sqlite3_open_v2(path.toUtf8().constData(), &handle_, kFlags, nullptr) != SQLITE_OK) {
     StoreError::RaiseFor(handle_);
   }
-  sqlite3_busy_timeout(handle_, kPatienceMilliseconds);
-  sqlite3_db_config(handle_, SQLITE_DBCONFIG_DEFENSIVE, 1, nullptr);
-  sqlite3_db_config(handle_, SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0, nullptr);
-  sqlite3_create_collation(handle_, "TEXTORDER", SQLITE_UTF8, nullptr, CompareTexts);
+  SetUpConnection(handle_);
   Execute("SELECT count(*) FROM sqlite_master");
   if (QFile(path).size() == 0) {
     StoreError::Raise(StoreError::kNotADatabase);

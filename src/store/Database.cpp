@@ -11,6 +11,24 @@
 
 #include <algorithm>
 
+namespace {
+
+// A group is in an order already, and what is counted must be grouped.
+Dialect::Select ParseAnswerable(const QString& query)
+{
+  Dialect::Select select = Dialect::ParseSelect(query);
+  if (select.group && !select.order.empty()) {
+    StoreError::Raise(StoreError::kSyntax, QStringLiteral("ORDER"));
+  }
+  const auto isCounted = [](const Dialect::Item& item) { return item.counted; };
+  if (!select.group && std::any_of(select.items.begin(), select.items.end(), isCounted)) {
+    StoreError::Raise(StoreError::kSyntax, QStringLiteral("Count"));
+  }
+  return select;
+}
+
+}
+
 Database::Database(const QString& path) : connection_(Connection::To(path)) {}
 
 Database::~Database() = default;
@@ -40,18 +58,19 @@ std::unique_ptr<Recordset> Database::OpenRecordset(const QString& source, int ki
   if (kind == kTable) {
     return std::make_unique<TableCursor>(connection_, connection_->Table(source));
   }
-  const Dialect::Select select = Dialect::ParseSelect(source);
+  const Dialect::Select select = ParseAnswerable(source);
   const TableSchema& table = connection_->Table(select.table);
-  if (select.group && !select.order.empty()) {
-    StoreError::Raise(StoreError::kSyntax, QStringLiteral("ORDER"));
-  }
   if (select.group) {
     return std::make_unique<Snapshot>(connection_, select, table);
   }
-  if (std::any_of(select.items.begin(), select.items.end(), [](const auto& item) { return item.counted; })) {
-    StoreError::Raise(StoreError::kSyntax, QStringLiteral("Count"));
-  }
   return std::make_unique<Dynaset>(connection_, select, table);
+}
+
+QString Database::Translate(const QString& query)
+{
+  MustBeOpen();
+  const Dialect::Select select = ParseAnswerable(query);
+  return Dialect::Translate(select, connection_->Table(select.table));
 }
 
 void Database::Close()

@@ -33,6 +33,9 @@ public:
   };
   [[nodiscard]] std::unique_ptr<Recordset> OpenRange(const QString& query, const Range& range);
 
+  // A query in SQLite's words, for another connection to the file that knows TEXTORDER.
+  [[nodiscard]] QString Translate(const QString& query);
+
   void Close();
 
 private:

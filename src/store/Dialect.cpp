@@ -212,6 +212,30 @@ QString TranslateColumn(const QString& column, const TableSchema& table)
   return QuoteName(found->name);
 }
 
+QString TranslateItem(const Item& item, const TableSchema& table)
+{
+  const QString expression = Translate(item.expression, table);
+  return item.counted ? QStringLiteral("count(%1)").arg(expression) : expression;
+}
+
+QString InTextOrder(const Expression& expression, const TableSchema& table)
+{
+  return Translate(expression, table) + QLatin1String(" COLLATE TEXTORDER");
+}
+
+QString TranslateOrder(const Select& select, const TableSchema& table)
+{
+  if (select.group) {
+    return QStringLiteral(" GROUP BY %1 ORDER BY %1").arg(InTextOrder({{*select.group, false}}, table));
+  }
+  QStringList order;
+  for (const Expression& expression : select.order) {
+    order.append(InTextOrder(expression, table));
+  }
+  order.append(QuoteName(table.key));
+  return QLatin1String(" ORDER BY ") + order.join(QLatin1Char(','));
+}
+
 }
 
 Select ParseSelect(const QString& sql)
@@ -235,6 +259,19 @@ QString Translate(const Expression& expression, const TableSchema& table)
                                   : QStringLiteral("coalesce(%1,'')").arg(TranslateColumn(operand.text, table)));
   }
   return joined.join(QLatin1String("||"));
+}
+
+QString Translate(const Select& select, const TableSchema& table)
+{
+  QStringList items;
+  for (const Item& item : select.items) {
+    items.append(TranslateItem(item, table));
+  }
+  QString sql = QStringLiteral("SELECT %1 FROM %2").arg(items.join(QLatin1Char(',')), QuoteName(table.name));
+  if (select.notNull) {
+    sql += QStringLiteral(" WHERE %1 IS NOT NULL").arg(Translate({{*select.notNull, false}}, table));
+  }
+  return sql + TranslateOrder(select, table);
 }
 
 }

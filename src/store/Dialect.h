@@ -50,4 +50,8 @@ struct Criterion
 // The expression for SQLite. Throws 3061 for a column that the table has not.
 [[nodiscard]] QString Translate(const Expression& expression, const TableSchema& table);
 
+// The query for SQLite, on a connection that knows TEXTORDER. Groups come in the order of
+// their texts, other rows by their key where the query does not say.
+[[nodiscard]] QString Translate(const Select& select, const TableSchema& table);
+
 }

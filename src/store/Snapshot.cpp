@@ -7,30 +7,6 @@
 
 #include <numeric>
 
-namespace {
-
-QString TranslateItem(const Dialect::Item& item, const TableSchema& table)
-{
-  const QString expression = Dialect::Translate(item.expression, table);
-  return item.counted ? QStringLiteral("count(%1)").arg(expression) : expression;
-}
-
-QString TranslateGrouped(const Dialect::Select& select, const TableSchema& table)
-{
-  QStringList items;
-  for (const Dialect::Item& item : select.items) {
-    items.append(TranslateItem(item, table));
-  }
-  QString sql = QStringLiteral("SELECT %1 FROM %2").arg(items.join(QLatin1Char(',')), QuoteName(table.name));
-  if (select.notNull) {
-    sql += QStringLiteral(" WHERE %1 IS NOT NULL").arg(Dialect::Translate({{*select.notNull, false}}, table));
-  }
-  const QString group = Dialect::Translate({{*select.group, false}}, table) + QLatin1String(" COLLATE TEXTORDER");
-  return sql + QStringLiteral(" GROUP BY %1 ORDER BY %1").arg(group);
-}
-
-}
-
 Snapshot::Snapshot(const std::shared_ptr<Connection>& connection, const Dialect::Select& select,
                    const TableSchema& table)
     : ListCursor(connection, table, [&] {
@@ -41,7 +17,7 @@ Snapshot::Snapshot(const std::shared_ptr<Connection>& connection, const Dialect:
         return columns;
       }())
 {
-  Statement statement(*connection, TranslateGrouped(select, table));
+  Statement statement(*connection, Dialect::Translate(select, table));
   while (statement.Step()) {
     std::vector<QVariant> row;
     for (std::size_t column = 0; column < Columns().size(); ++column) {
