@@ -6,6 +6,7 @@
 #include "anniversaries/frmAnn.h"
 #include "calendar/frmCalEdit.h"
 #include "calendar/frmReminders.h"
+#include "charts/frmCharts.h"
 #include "controls/Forms.h"
 #include "lookup/frmQuillmark.h"
 #include "occasions/frmSpecial.h"
@@ -24,6 +25,7 @@ void RegisterForms()
   Forms::Register(QStringLiteral("frmAnn"), [] { return new frmAnn; });
   Forms::Register(QStringLiteral("frmAutoStart"), [] { return new frmAutoStart; });
   Forms::Register(QStringLiteral("frmCalEdit"), [] { return new frmCalEdit; });
+  Forms::Register(QStringLiteral("frmCharts"), [] { return new frmCharts; });
   Forms::Register(QStringLiteral("frmNew"), [] { return new frmNew; });
   Forms::Register(QStringLiteral("frmQuillmark"), [] { return new frmQuillmark; });
   Forms::Register(QStringLiteral("frmReminders"), [] { return new frmReminders; });

@@ -85,7 +85,7 @@ bool TakesFocus(const Widget& widget)
       QStringLiteral("QSpinBox"),  QStringLiteral("QRadioButton"),     QStringLiteral("QPushButton"),
       QStringLiteral("QListView"), QStringLiteral("QToolButton"),      QStringLiteral("QTextBrowser"),
       QStringLiteral("QComboBox"), QStringLiteral("QTableView"),       QStringLiteral("MonthCalendar"),
-      QStringLiteral("TextBox"),   QStringLiteral("MultiLineTextBox"),
+      QStringLiteral("TextBox"),   QStringLiteral("MultiLineTextBox"), QStringLiteral("ChartControl"),
   };
   if (widget.Property("focusPolicy") == QStringLiteral("Qt::NoFocus")) {
     return false;
