@@ -13,10 +13,10 @@ QVariant ValueIn(Recordset& rows, const char* column)
   return rows.Fields(QLatin1String(column)).Value();
 }
 
-CalendarEvent Read(Recordset& rows)
+CalendarEvent Read(Recordset& rows, int id)
 {
-  return {ValueIn(rows, "ID").toInt(), ValueIn(rows, "Date").toDate(), ValueIn(rows, "Event").toString(),
-          ValueIn(rows, "Time").toTime(), ValueIn(rows, "Notes").toString()};
+  return {id, ValueIn(rows, "Date").toDate(), ValueIn(rows, "Event").toString(), ValueIn(rows, "Time").toTime(),
+          ValueIn(rows, "Notes").toString()};
 }
 
 }
@@ -31,7 +31,19 @@ std::vector<CalendarEvent> Between(Database& database, const QString& month, QDa
   }
   for (; !rows->Eof() && ValueIn(*rows, "Month").toString().compare(month, Qt::CaseInsensitive) == 0;
        rows->MoveNext()) {
-    events.push_back(Read(*rows));
+    events.push_back(Read(*rows, ValueIn(*rows, "ID").toInt()));
+  }
+  return events;
+}
+
+std::vector<CalendarEvent> InOrderOfDate(Database& database, const QString& month, QDate first, QDate last)
+{
+  std::vector<CalendarEvent> events;
+  const auto rows = database.OpenRange(Queries::kEventsToPrint, {QStringLiteral("Date"), first, last});
+  for (; !rows->Eof(); rows->MoveNext()) {
+    if (ValueIn(*rows, "Month").toString().compare(month, Qt::CaseInsensitive) == 0) {
+      events.push_back(Read(*rows, 0));
+    }
   }
   return events;
 }

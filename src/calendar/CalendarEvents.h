@@ -29,6 +29,10 @@ namespace CalendarEvents {
 // Those of one date.
 [[nodiscard]] std::vector<CalendarEvent> On(Database& database, const QString& month, QDate date);
 
+// The same as Between, but by date, then as they were entered. Their IDs are 0.
+[[nodiscard]] std::vector<CalendarEvent> InOrderOfDate(Database& database, const QString& month, QDate first,
+                                                       QDate last);
+
 // Their IDs.
 [[nodiscard]] std::vector<int> IdsOf(const std::vector<CalendarEvent>& events);
 

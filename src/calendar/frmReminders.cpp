@@ -76,7 +76,6 @@ frmReminders::frmReminders()
   lblOptions_.Collect(*this, QStringLiteral("lblOptions"));
   lblDay_.Collect(*this, QStringLiteral("lblDay"));
   lstReminders_.Collect(*this, QStringLiteral("lstReminders"));
-  lblOptions_[kPrint].setEnabled(Forms::IsKnown(QStringLiteral("frmPrintCal")));
   ui_->txtNotesDisplay->SetLocked(true);
   ConnectControls();
 }

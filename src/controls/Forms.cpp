@@ -36,11 +36,6 @@ void Forms::UnregisterAll()
   Makers().clear();
 }
 
-bool Forms::IsKnown(const QString& name)
-{
-  return Makers().contains(name);
-}
-
 Form& Forms::Load(const QString& name)
 {
   if (Form* form = Loaded(name)) {

@@ -19,7 +19,6 @@ public:
   // Makes a form known. Without this its page counts as not there.
   static void Register(const QString& name, Maker maker);
   static void UnregisterAll();
-  [[nodiscard]] static bool IsKnown(const QString& name);
 
   // The form, loaded now if it was not. Throws 364 if the form is not known, and what
   // its loading throws; then it is not loaded.

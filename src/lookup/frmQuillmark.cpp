@@ -12,11 +12,16 @@
 #include "looks/modThemes.h"
 #include "looks/modToolTips.h"
 #include "lookup/ClipboardText.h"
-#include "lookup/PersonValues.h"
+#include "lookup/PrintedLines.h"
+#include "lookup/RecordPrinting.h"
 #include "people/Couples.h"
 #include "people/modImages.h"
 #include "platform/Attempt.h"
+#include "platform/Clock.h"
 #include "platform/MsgBox.h"
+#include "platform/PrintDialog.h"
+#include "platform/PrintProgress.h"
+#include "platform/Printer.h"
 #include "store/DBEngine.h"
 #include "store/Queries.h"
 #include "ui_frmQuillmark.h"
@@ -32,6 +37,7 @@ constexpr int kOpenLetter = 2;
 constexpr int kClip = 4;
 constexpr int kExitPrint = 5;
 constexpr int kExitLetter = 9;
+constexpr int kPrint = 10;
 constexpr int kOpenDatabase = 11;
 constexpr int kExitDatabase = 12;
 
@@ -57,6 +63,7 @@ frmQuillmark::frmQuillmark()
                {*ui_->chkPersonal_1, *ui_->txtAnnInfo, *ui_->txtAnnInfo, *ui_->shpAnn},
                {*ui_->chkNotes, *ui_->txtNotes, *ui_->txtNotes, *ui_->shpNotes},
                {}},
+      names_(*ui_->lstNames),
       picture_(*ui_->picPerson, *ui_->imgPerson, *ui_->picThemes)
 {
   lblOptions_.Collect(*this, QStringLiteral("lblOptions"));
@@ -105,8 +112,7 @@ void frmQuillmark::Form_Load()
 
 void frmQuillmark::Form_Unload()
 {
-  people_.reset();
-  database_.reset();
+  names_.Close();
   modImages::UnstretchEmpty = false;
   Frame::Current().AllowDatabaseCare(true);
 }
@@ -123,34 +129,9 @@ void frmQuillmark::Form_Resize()
 
 void frmQuillmark::DAOPeople()
 {
-  OpenPeople(Queries::kPeople);
-  if (people_->Eof()) {
+  if (!names_.Open(Queries::kPeople)) {
     ui_->txtEmpty->show();
-  } else {
-    FillNames();
   }
-}
-
-void frmQuillmark::OpenPeople(const QString& query)
-{
-  if (!database_) {
-    database_ = DBEngine::OpenDatabase();
-  }
-  people_ = database_->OpenRecordset(query, Database::kDynaset);
-}
-
-void frmQuillmark::FillNames()
-{
-  Field& name = people_->Fields(QStringLiteral("FullName"));
-  Field& key = people_->Fields(QStringLiteral("PeopleID"));
-  QStringList lines;
-  keys_.clear();
-  for (people_->MoveFirst(); !people_->Eof(); people_->MoveNext()) {
-    lines.append(name.Peek().toString());
-    keys_.push_back(key.Peek().toInt());
-  }
-  ui_->lstNames->Clear();
-  ui_->lstNames->AddItems(lines);
 }
 
 void frmQuillmark::lblNames_Click(int index)
@@ -159,13 +140,10 @@ void frmQuillmark::lblNames_Click(int index)
     return;
   }
   lastOrder_ = index + 1;
-  OpenPeople(index == kByFirstName ? Queries::kPeopleByFirstName : Queries::kPeopleByLastName);
-  if (people_->Eof()) {
-    return;
+  if (names_.Open(index == kByFirstName ? Queries::kPeopleByFirstName : Queries::kPeopleByLastName)) {
+    ui_->lblName->clear();
+    ResetSelection();
   }
-  ui_->lblName->clear();
-  FillNames();
-  ResetSelection();
 }
 
 // Without a person the check boxes do nothing on their way to unticked.
@@ -186,38 +164,17 @@ void frmQuillmark::SetSelected(int personID)
   selectedID_ = personID;
 }
 
-// False if the person is gone by now.
-bool frmQuillmark::GoToSelected()
-{
-  const auto line = ui_->lstNames->ListIndex();
-  if (line < 0 || !people_) {
-    return false;
-  }
-  const int personID = keys_.at(static_cast<std::size_t>(line));
-  const bool found = Attempt([&] { people_->SetBookmark({personID, line}); });
-  SetSelected(found ? personID : 0);
-  return found;
-}
-
 void frmQuillmark::lstNames_Click()
 {
   ui_->lblExplain->hide();
-  if (!GoToSelected()) {
+  SetSelected(names_.GoToChosen());
+  if (selectedID_ == 0) {
     return;
   }
-  if (results_.ContactWanted()) {
-    FindContact();
-  }
-  if (results_.SpecialWanted()) {
-    FindSpecial();
-  }
-  if (results_.notes.IsWanted()) {
-    FindNotes();
-  }
+  FindWanted();
   TitleChange();
   picture_.Show(QStringLiteral("/PeoplePics/%1.bmp").arg(selectedID_));
-  ui_->lblName->setText(FirstName() + QLatin1Char(' ') +
-                        people_->Fields(QStringLiteral("LastName")).Value().toString());
+  ui_->lblName->setText(ValueOf("FirstName") + QLatin1Char(' ') + ValueOf("LastName"));
 }
 
 void frmQuillmark::chkInfo_Click()
@@ -247,19 +204,32 @@ void frmQuillmark::lblAll_Click(int index)
   TitleChange();
 }
 
+void frmQuillmark::FindWanted()
+{
+  if (results_.ContactWanted()) {
+    FindContact();
+  }
+  if (results_.SpecialWanted()) {
+    FindSpecial();
+  }
+  if (results_.notes.IsWanted()) {
+    FindNotes();
+  }
+}
+
 void frmQuillmark::FindContact()
 {
   if (modID::SelectedPersonID == 0) {
     return;
   }
-  if (!Attempt([this] { results_.ShowContact(*people_); })) {
+  if (!Attempt([this] { results_.ShowContact(names_.Person()); })) {
     MsgBox(QStringLiteral("Unexpected error... please try again"));
   }
 }
 
 void frmQuillmark::FindSpecial()
 {
-  if (modID::SelectedPersonID != 0 && results_.ShowSpecial(*people_)) {
+  if (modID::SelectedPersonID != 0 && results_.ShowSpecial(names_.Person())) {
     ui_->lblExplain->show();
   }
 }
@@ -267,13 +237,13 @@ void frmQuillmark::FindSpecial()
 void frmQuillmark::FindNotes()
 {
   if (modID::SelectedPersonID != 0) {
-    results_.ShowNotes(*people_);
+    results_.ShowNotes(names_.Person());
   }
 }
 
-QString frmQuillmark::FirstName()
+QString frmQuillmark::ValueOf(const char* column)
 {
-  return people_->Fields(QStringLiteral("FirstName")).Value().toString();
+  return names_.Person().Fields(QLatin1String(column)).Value().toString();
 }
 
 void frmQuillmark::TitleChange()
@@ -281,7 +251,7 @@ void frmQuillmark::TitleChange()
   if (modID::SelectedPersonID == 0) {
     return;
   }
-  const auto title = [name = FirstName()](const char* plain, const char* named, bool wanted) {
+  const auto title = [name = ValueOf("FirstName")](const char* plain, const char* named, bool wanted) {
     return wanted ? QLatin1String(named) + name : QString(QLatin1String(plain));
   };
   ui_->txtContact->SetText(title("Contact", "Contact records for ", results_.ContactWanted()));
@@ -299,6 +269,9 @@ void frmQuillmark::lblOptions_Click(int index)
       break;
     case kOpenPrint:
       OpenPanel(*ui_->fraPrint);
+      break;
+    case kPrint:
+      Print();
       break;
     case kExitPrint:
       ClosePrint();
@@ -329,6 +302,71 @@ void frmQuillmark::OpenPanel(QWidget& panel)
   panel.show();
 }
 
+// A printing that fails or is cancelled ends without a word. That of everybody has left the
+// person of the chosen line, so that nobody is selected then.
+void frmQuillmark::Print()
+{
+  if (names_.IsEmpty()) {
+    MsgBox(QStringLiteral("There are no records in the database"));
+  } else if (!results_.AnyWanted()) {
+    MsgBox(QStringLiteral("Please select items to print, such as address, birthday and so on."));
+  } else if (ui_->optPrint_0->isChecked() && modID::SelectedPersonID == 0) {
+    MsgBox(QStringLiteral("Please select a name"));
+  } else if (!ui_->optPrint_0->isChecked() && !ui_->optPrint_1->isChecked()) {
+    MsgBox(QStringLiteral("You must select a printing option"));
+  } else if (Attempt([this] { PrintPeople(); })) {
+    MsgBox(QStringLiteral("Printing completed"));
+  } else {
+    Attempt([] { Printer::EndDoc(); });
+    if (ui_->optPrint_1->isChecked()) {
+      modID::SelectedPersonID = 0;
+    }
+  }
+}
+
+void frmQuillmark::PrintPeople()
+{
+  if (ui_->optPrint_0->isChecked()) {
+    BeginPrinting();
+    PrintPerson();
+  } else {
+    names_.Person().MoveLast();
+    names_.Person().MoveFirst();
+    modID::SelectedPersonID = ValueOf("PeopleID").toInt();
+    BeginPrinting();
+    PrintEverybody();
+  }
+  Printer::EndDoc();
+}
+
+void frmQuillmark::BeginPrinting()
+{
+  ShowPrinter();
+  PrintedLines::SetBodyFont();
+  if (ui_->chkDate->isChecked()) {
+    PrintedLines::Print(PrintedLines::DateText(Clock::Today()));
+    Printer::Print();
+  }
+}
+
+void frmQuillmark::PrintEverybody()
+{
+  PrintProgress progress(names_.Count());
+  for (; !names_.Person().Eof(); names_.Person().MoveNext()) {
+    FindWanted();
+    PrintPerson();
+    progress.Step();
+  }
+  modID::SelectedPersonID = 0;
+}
+
+void frmQuillmark::PrintPerson()
+{
+  ui_->txtHidden->SetText(ui_->txtNotes->Text());
+  RecordPrinting::PrintStuff(ValueOf("FullName"), results_,
+                             RecordPrinting::NotesLines(ui_->txtHidden->Text(), ui_->txtHidden->font()));
+}
+
 void frmQuillmark::ClosePrint()
 {
   Choices::Clear({ui_->optPrint_0, ui_->optPrint_1});
@@ -346,7 +384,8 @@ void frmQuillmark::CloseLetter()
 void frmQuillmark::optData_Click(int index)
 {
   {
-    const auto couples = database_->OpenRecordset(QStringLiteral("Ann"), Database::kTable);
+    Database database = DBEngine::OpenDatabase();
+    const auto couples = database.OpenRecordset(QStringLiteral("Ann"), Database::kTable);
     for (const Couples::Couple& couple : Couples::Of(*couples, modID::SelectedPersonID)) {
       modID::CoupleSpouse1ID = couple.spouse1ID;
       modID::CoupleSpouse2ID = couple.spouse2ID;

@@ -6,15 +6,13 @@
 #include "controls/ControlArray.h"
 #include "controls/Form.h"
 #include "controls/Label.h"
+#include "lookup/NameList.h"
 #include "lookup/PersonResults.h"
 #include "people/PagePicture.h"
-#include "store/Database.h"
 
 #include <QTimer>
 
 #include <memory>
-#include <optional>
-#include <vector>
 
 class QCheckBox;
 class QRadioButton;
@@ -53,21 +51,24 @@ private:
 
   // The list.
   void DAOPeople();
-  void OpenPeople(const QString& query);
-  void FillNames();
   void ResetSelection();
-  bool GoToSelected();
   void SetSelected(int personID);
 
   // The boxes.
+  void FindWanted();
   void FindContact();
   void FindSpecial();
   void FindNotes();
   void TitleChange();
-  [[nodiscard]] QString FirstName();
+  [[nodiscard]] QString ValueOf(const char* column);
 
   // The commands.
   void OpenPanel(QWidget& panel);
+  void Print();
+  void PrintPeople();
+  void BeginPrinting();
+  void PrintEverybody();
+  void PrintPerson();
   void ClosePrint();
   void CloseLetter();
   void Clip();
@@ -80,10 +81,8 @@ private:
   ControlArray<QRadioButton> optData_;
   QTimer tmrTimer_;
   PersonResults results_;
+  NameList names_;
   PagePicture picture_;
-  std::optional<Database> database_;
-  std::unique_ptr<Recordset> people_;
-  std::vector<int> keys_;  // by line of the list
   int selectedID_ = 0;
   int lastOrder_ = 0;
   int ticks_ = 0;

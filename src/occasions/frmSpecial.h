@@ -80,6 +80,8 @@ private:
   void OpenPanel(QWidget& panel);
   void OpenFamous();
   void Connect();
+  void Print();
+  void PrintMonths();
   void ClosePrint();
   void CloseCalendar();
   void LeaveFor(const char* page);

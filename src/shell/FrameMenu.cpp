@@ -36,7 +36,6 @@ FrameMenu::FrameMenu(Ui::mdiQuillmark& ui)
 {
   NameSubmenus();
   ConnectControls();
-  EnableEntries();
 }
 
 void FrameMenu::NameSubmenus()
@@ -77,26 +76,6 @@ void FrameMenu::ConnectPage(QAction* action, const char* page)
 void FrameMenu::ConnectDialog(QAction* action, const char* dialog)
 {
   connect(action, &QAction::triggered, this, [=] { Forms::Load(QLatin1String(dialog)).ShowModal(); });
-}
-
-void FrameMenu::EnableEntries()
-{
-  const std::pair<QAction*, const char*> entries[] = {
-      {ui_.mnuLists_0, "frmQuillmark"},
-      {ui_.mnuLists_1, "frmSpecial"},
-      {ui_.mnuLists_2, "frmPrintCal"},
-      {ui_.mnuAutostart, "frmAutoStart"},
-      {ui_.mnuSetReminders, "frmNotice"},
-      {ui_.mnuPersonal, "frmNew"},
-      {ui_.mnuAnn, "frmAnn"},
-      {ui_.mnuAbout, "frmAbout"},
-  };
-  for (const auto& [action, form] : entries) {
-    action->setEnabled(Forms::IsKnown(QLatin1String(form)));
-  }
-  if (!Forms::IsKnown(QStringLiteral("frmReminders"))) {
-    ui_.mnuLists_2->setEnabled(false);
-  }
 }
 
 void FrameMenu::MarkTheme(int theme)

@@ -38,7 +38,6 @@ private:
   void ConnectControls();
   void ConnectPage(QAction* action, const char* page);
   void ConnectDialog(QAction* action, const char* dialog);
-  void EnableEntries();
   void NameSubmenus();
 
   Ui::mdiQuillmark& ui_;

@@ -5,6 +5,7 @@
 
 #include "anniversaries/frmAnn.h"
 #include "calendar/frmCalEdit.h"
+#include "calendar/frmPrintCal.h"
 #include "calendar/frmReminders.h"
 #include "charts/frmCharts.h"
 #include "controls/Forms.h"
@@ -13,8 +14,8 @@
 #include "people/frmNew.h"
 #include "reminders/frmNotice.h"
 #include "reminders/frmTextNotice.h"
-#include "shell/frmAutoStart.h"
 #include "shell/frmAbout.h"
+#include "shell/frmAutoStart.h"
 #include "shell/frmIntro.h"
 #include "shell/mdiQuillmark.h"
 
@@ -27,9 +28,10 @@ void RegisterForms()
   Forms::Register(QStringLiteral("frmCalEdit"), [] { return new frmCalEdit; });
   Forms::Register(QStringLiteral("frmCharts"), [] { return new frmCharts; });
   Forms::Register(QStringLiteral("frmNew"), [] { return new frmNew; });
+  Forms::Register(QStringLiteral("frmNotice"), [] { return new frmNotice; });
+  Forms::Register(QStringLiteral("frmPrintCal"), [] { return new frmPrintCal; });
   Forms::Register(QStringLiteral("frmQuillmark"), [] { return new frmQuillmark; });
   Forms::Register(QStringLiteral("frmReminders"), [] { return new frmReminders; });
-  Forms::Register(QStringLiteral("frmNotice"), [] { return new frmNotice; });
   Forms::Register(QStringLiteral("frmSpecial"), [] { return new frmSpecial; });
   Forms::Register(QStringLiteral("frmTextNotice"), [] { return new frmTextNotice; });
 }

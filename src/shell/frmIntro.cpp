@@ -30,7 +30,6 @@ frmIntro::frmIntro()
   lblOptions_.Collect(*this, QStringLiteral("lblOptions"));
   shpOne_.Collect(*this, QStringLiteral("shpOne"));
   ConnectControls();
-  EnableCommands();
 }
 
 frmIntro::~frmIntro() = default;
@@ -39,13 +38,6 @@ void frmIntro::ConnectControls()
 {
   connect(&lblOptions_, &ControlArraySignals::Click, this, &frmIntro::lblOptions_Click);
   connect(&tmrTimer_, &QTimer::timeout, this, &frmIntro::tmrTimer_Timer);
-}
-
-void frmIntro::EnableCommands()
-{
-  for (std::size_t index = 0; index < kPages.size(); ++index) {
-    lblOptions_[static_cast<int>(index)].setEnabled(Forms::IsKnown(QLatin1String(kPages[index])));
-  }
 }
 
 void frmIntro::Form_Load()

@@ -36,7 +36,6 @@ private Q_SLOTS:
 
 private:
   void ConnectControls();
-  void EnableCommands();
 
   std::unique_ptr<Ui::frmIntro> ui_;
   ControlArray<Label> lblOptions_;

@@ -224,14 +224,3 @@ TEST_F(RemindersLoad, PrintShowsItsFormOverThePageWithTheThemeFlagSet)
   EXPECT_TRUE(modThemes::CalendarHasPicture());
   ExpectMonth(2026, 5);
 }
-
-TEST_F(RemindersLoad, PrintIsDisabledWithoutItsForm)
-{
-  Open();
-  EXPECT_FALSE(Control("lblOptions_3").isEnabled());
-  Click("lblOptions_3");
-  EXPECT_TRUE(IsOpen());
-  for (int i = 0; i < 3; ++i) {
-    EXPECT_TRUE(Control(Element("lblOptions", i)).isEnabled()) << i;
-  }
-}
