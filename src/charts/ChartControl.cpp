@@ -92,7 +92,7 @@ QString ChartControl::XAxisTitle() const
 
 void ChartControl::SetXAxisTitle(const QString& title)
 {
-  bars_->Names().setTitleText(title);
+  SetTitle(bars_->Names(), title);
 }
 
 QString ChartControl::YAxisTitle() const
@@ -102,7 +102,17 @@ QString ChartControl::YAxisTitle() const
 
 void ChartControl::SetYAxisTitle(const QString& title)
 {
-  bars_->Totals().setTitleText(title);
+  SetTitle(bars_->Totals(), title);
+}
+
+// A title that comes or goes changes the room of the bars.
+void ChartControl::SetTitle(QAbstractAxis& axis, const QString& title)
+{
+  const bool hadOne = !axis.titleText().isEmpty();
+  axis.setTitleText(title);
+  if (hadOne == title.isEmpty()) {
+    Draw();
+  }
 }
 
 QString ChartControl::InWords() const

@@ -10,6 +10,7 @@
 class BarChart;
 class CircleChart;
 class DataControl;
+class QAbstractAxis;
 class QScrollBar;
 
 // A chart of the rows of a data control, on a card. What it shows follows each refresh. If
@@ -67,6 +68,7 @@ private:
   void Follow();
   void Draw();
   void DrawBars();
+  void SetTitle(QAbstractAxis& axis, const QString& title);
   void SetShowsFocus(bool shows);
   [[nodiscard]] QRect Inside() const;
 

@@ -41,6 +41,12 @@ double TotalIn(const QVariant& value)
   return std::isfinite(total) && total > 0 ? total : 0;
 }
 
+// Names stand on one line.
+QString NameIn(const QVariant& value)
+{
+  return value.toString().replace(QLatin1Char('\n'), QLatin1Char(' '));
+}
+
 ChartRows Run(const QSqlDatabase& database, const QString& sql)
 {
   QSqlQuery query(database);
@@ -50,7 +56,7 @@ ChartRows Run(const QSqlDatabase& database, const QString& sql)
   }
   ChartRows rows;
   while (query.next()) {
-    rows.push_back({query.value(0).toString(), TotalIn(query.value(1))});
+    rows.push_back({NameIn(query.value(0)), TotalIn(query.value(1))});
   }
   if (query.lastError().isValid()) {
     Raise(query.lastError());

@@ -189,6 +189,12 @@ TEST_F(DataControlTest, WhatIsNoCountIsNothing)
   EXPECT_EQ(Read(Queries::kTotalAge), "a=3 b=0 c=0 d=0 =1 e=4 f=0 g=0 a=5");
 }
 
+TEST_F(DataControlTest, NamesStandOnOneLine)
+{
+  AddCity("Ayr\nupon\nSea");
+  EXPECT_EQ(Read(Queries::kPeopleByCity), "Ayr upon Sea=1");
+}
+
 TEST_F(DataControlTest, FilesOfAnyNameAreRead)
 {
   AddCity("Ayr");
