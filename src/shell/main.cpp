@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Quillmark authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
+#include "lookup/Letters.h"
 #include "looks/Style.h"
 #include "platform/Application.h"
 #include "shell/StartUp.h"
@@ -13,5 +14,9 @@ int main(int argc, char** argv)
   RegisterForms();
   mdiQuillmark frame;
   Application::RunGuarded([&] { StartUp(frame); });
-  return frame.HasEnded() ? EXIT_SUCCESS : Application::exec();
+  if (frame.HasEnded()) {
+    return EXIT_SUCCESS;
+  }
+  Letters::TidyUp();
+  return Application::exec();
 }
