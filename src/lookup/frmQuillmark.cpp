@@ -12,6 +12,7 @@
 #include "looks/modThemes.h"
 #include "looks/modToolTips.h"
 #include "lookup/ClipboardText.h"
+#include "lookup/Correspondence.h"
 #include "lookup/PrintedLines.h"
 #include "lookup/RecordPrinting.h"
 #include "people/Couples.h"
@@ -34,8 +35,12 @@ namespace {
 constexpr int kMain = 0;
 constexpr int kOpenPrint = 1;
 constexpr int kOpenLetter = 2;
+constexpr int kEmail = 3;
 constexpr int kClip = 4;
 constexpr int kExitPrint = 5;
+constexpr int kNotepad = 6;
+constexpr int kWord = 7;
+constexpr int kWordPad = 8;
 constexpr int kExitLetter = 9;
 constexpr int kPrint = 10;
 constexpr int kOpenDatabase = 11;
@@ -279,8 +284,20 @@ void frmQuillmark::lblOptions_Click(int index)
     case kOpenLetter:
       OpenPanel(*ui_->fraLetter);
       break;
+    case kNotepad:
+      Correspondence::WriteLetter(names_, LetterProgram::kNotepad, ui_->chkAddress->isChecked());
+      break;
+    case kWord:
+      Correspondence::WriteLetter(names_, LetterProgram::kWord, ui_->chkAddress->isChecked());
+      break;
+    case kWordPad:
+      Correspondence::WriteLetter(names_, LetterProgram::kWordPad, ui_->chkAddress->isChecked());
+      break;
     case kExitLetter:
       CloseLetter();
+      break;
+    case kEmail:
+      Correspondence::SendEmail(names_);
       break;
     case kClip:
       Clip();
