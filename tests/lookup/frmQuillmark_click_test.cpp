@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "LookupTest.h"
+#include "people/DatabaseTaken.h"
 
 #include <map>
 
@@ -327,6 +328,36 @@ TEST_F(LookupClick, TickingADateOrTheNotesOfSomebodyDeletedByAnotherProgramEndsN
     Tick(check);
   }
   EXPECT_TRUE(IsOpen());
+}
+
+TEST_F(LookupClick, AfterSomebodyDeletedAnUntickStillHides)
+{
+  AddSomebody("Ann", 1);
+  const int bob = AddSomebody("Bob", 2);
+  Open();
+  Click(kCheckAll);
+  ClickLine(0);
+  Remove(bob);
+  ClickLine(1);
+  for (const LookupItem& item : kItems) {
+    Tick(item.check);
+    ASSERT_FALSE(IsTicked(item.check));
+    EXPECT_FALSE(IsShown(item.box)) << item.box;
+  }
+}
+
+TEST_F(LookupClick, WithTheDatabaseLockedATickOfAContactSaysSo)
+{
+  AddSomebody("Ann", 1);
+  Open();
+  ClickLine(0);
+  {
+    const DatabaseTaken taken(folder.DatabasePath());
+    boxes.Expect("Unexpected error... please try again");
+    Tick("chkInfo_0");
+  }
+  ClickLine(0);
+  EXPECT_EQ(Shown("txtPhoneInfo"), "phone 1");
 }
 
 TEST_F(LookupClick, PeopleWithoutNamesAreShown)

@@ -199,6 +199,23 @@ TEST_F(LookupDatabase, InADamagedTableTheLastCoupleWins)
   ExpectAt("frmAnn", ann, 44, ann);
 }
 
+TEST_F(LookupDatabase, WithIndexesThatAreNotUniqueTheLastCoupleWins)
+{
+  for (const char* index : {"Spouse1ID", "Spouse2ID"}) {
+    folder.Execute(QStringLiteral("DROP INDEX %1").arg(index));
+    folder.Execute(QStringLiteral("CREATE INDEX %1 ON Ann (%1)").arg(index));
+  }
+  const int ann = AddPerson("Ann", "Wood");
+  AddCouple(ann, 41);
+  AddCouple(42, ann);
+  AddCouple(ann, 43);
+  AddCouple(51, 52);
+  Open();
+  ClickLine(0);
+  GoTo("optData_1");
+  ExpectAt("frmAnn", ann, ann, 43);
+}
+
 TEST_F(LookupDatabase, WithUniqueIndexesTheLaterOfTwoCouplesWins)
 {
   const int ann = AddPerson("Ann", "Wood");
@@ -232,6 +249,17 @@ TEST_F(LookupDatabase, WithTheDatabaseLockedTheProgramReportsIt)
   ExpectEnding(3260, [] { Tick("optData_1"); });
   EXPECT_TRUE(IsOpen());
   EXPECT_EQ(modID::SelectedPersonID, ann);
+}
+
+TEST_F(LookupDatabase, AfterALoadThatFailedTheEditorsOpenOnceTheDatabaseIsFree)
+{
+  AddPerson("Ann", "Wood");
+  {
+    const DatabaseTaken taken(folder.DatabasePath());
+    Open();
+  }
+  GoTo("optData_1");
+  ExpectAt("frmAnn", 0, 77, 78);
 }
 
 TEST_F(LookupDatabase, MainForgetsTheSelectedPerson)

@@ -233,6 +233,19 @@ TEST_F(LookupOrders, WhenEverybodyIsGoneTheListStaysAsItIs)
   ExpectTicks(false);
 }
 
+TEST_F(LookupOrders, AfterEverybodyIsGoneAnUntickEndsNothing)
+{
+  AddAnn();
+  Open();
+  Click(kCheckAll);
+  ClickLine(0);
+  folder.Execute("DELETE FROM People");
+  Click(kLastNameOrder);
+  Tick("chkPersonal_0");
+  Tick("chkNotes");
+  EXPECT_TRUE(IsOpen());
+}
+
 TEST_F(LookupOrders, WithTheDatabaseLockedTheProgramReportsIt)
 {
   AddAnn();
