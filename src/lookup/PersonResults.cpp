@@ -80,7 +80,6 @@ void PersonResults::ShowNotes(Recordset& person)
 void PersonResults::HideAll()
 {
   for (ResultBox* box : All()) {
-    box->SetWanted(false);
     box->Hide();
   }
 }

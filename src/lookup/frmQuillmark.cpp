@@ -68,6 +68,7 @@ frmQuillmark::frmQuillmark()
                {*ui_->chkPersonal_1, *ui_->txtAnnInfo, *ui_->txtAnnInfo, *ui_->shpAnn},
                {*ui_->chkNotes, *ui_->txtNotes, *ui_->txtNotes, *ui_->shpNotes},
                {}},
+      titles_(*ui_->txtContact, *ui_->txtSpecial, *ui_->chkNotes),
       names_(*ui_->lstNames),
       picture_(*ui_->picPerson, *ui_->imgPerson, *ui_->picThemes)
 {
@@ -77,8 +78,6 @@ frmQuillmark::frmQuillmark()
   optData_.Collect(*this, QStringLiteral("optData"));
   tmrTimer_.setObjectName(QStringLiteral("tmrTimer"));
   tmrTimer_.setInterval(kTimerMilliseconds);
-  ui_->txtContact->SetLocked(true);
-  ui_->txtSpecial->SetLocked(true);
   ui_->txtEmpty->SetLocked(true);
   ui_->txtEmpty->SetText(QStringLiteral("No names available. Open the database to make entries."));
   ConnectControls();
@@ -146,7 +145,7 @@ void frmQuillmark::lblNames_Click(int index)
   }
   lastOrder_ = index + 1;
   if (names_.Open(index == kByFirstName ? Queries::kPeopleByFirstName : Queries::kPeopleByLastName)) {
-    ui_->lblName->clear();
+    ui_->txtEmpty->hide();
     ResetSelection();
   }
 }
@@ -155,10 +154,17 @@ void frmQuillmark::lblNames_Click(int index)
 void frmQuillmark::ResetSelection()
 {
   SetSelected(0);
+  for (ResultBox* box : results_.All()) {
+    box->SetWanted(false);
+  }
+  ShowNobody();
+}
+
+void frmQuillmark::ShowNobody()
+{
   results_.HideAll();
-  ui_->txtContact->SetText(QStringLiteral("Contact"));
-  ui_->txtSpecial->SetText(QStringLiteral("Special occasions"));
-  ui_->chkNotes->setText(QStringLiteral("Notes"));
+  ui_->lblName->clear();
+  titles_.ShowPlain();
   ui_->txtNotes->SetText(QString());
   picture_.Clear();
 }
@@ -174,6 +180,7 @@ void frmQuillmark::lstNames_Click()
   ui_->lblExplain->hide();
   SetSelected(names_.GoToChosen());
   if (selectedID_ == 0) {
+    ShowNobody();
     return;
   }
   FindWanted();
@@ -232,18 +239,23 @@ void frmQuillmark::FindContact()
   }
 }
 
+// Nothing more is shown of a person who is gone by now; here and below.
 void frmQuillmark::FindSpecial()
 {
-  if (modID::SelectedPersonID != 0 && results_.ShowSpecial(names_.Person())) {
-    ui_->lblExplain->show();
-  }
+  Attempt([this] {
+    if (modID::SelectedPersonID != 0 && results_.ShowSpecial(names_.Person())) {
+      ui_->lblExplain->show();
+    }
+  });
 }
 
 void frmQuillmark::FindNotes()
 {
-  if (modID::SelectedPersonID != 0) {
-    results_.ShowNotes(names_.Person());
-  }
+  Attempt([this] {
+    if (modID::SelectedPersonID != 0) {
+      results_.ShowNotes(names_.Person());
+    }
+  });
 }
 
 QString frmQuillmark::ValueOf(const char* column)
@@ -253,15 +265,9 @@ QString frmQuillmark::ValueOf(const char* column)
 
 void frmQuillmark::TitleChange()
 {
-  if (modID::SelectedPersonID == 0) {
-    return;
+  if (modID::SelectedPersonID != 0) {
+    Attempt([this] { titles_.Show(ValueOf("FirstName"), results_); });
   }
-  const auto title = [name = ValueOf("FirstName")](const char* plain, const char* named, bool wanted) {
-    return wanted ? QLatin1String(named) + name : QString(QLatin1String(plain));
-  };
-  ui_->txtContact->SetText(title("Contact", "Contact records for ", results_.ContactWanted()));
-  ui_->txtSpecial->SetText(title("Special occasions", "Special occasions for ", results_.SpecialWanted()));
-  ui_->chkNotes->setText(title("Notes", "Notes for ", results_.notes.IsWanted()));
 }
 
 void frmQuillmark::lblOptions_Click(int index)
@@ -397,17 +403,15 @@ void frmQuillmark::CloseLetter()
   ui_->chkAddress->setChecked(false);
 }
 
-// Of the couples of a person, who can have but one, the last in the table counts.
 void frmQuillmark::optData_Click(int index)
 {
-  {
-    Database database = DBEngine::OpenDatabase();
-    const auto couples = database.OpenRecordset(QStringLiteral("Ann"), Database::kTable);
-    for (const Couples::Couple& couple : Couples::Of(*couples, modID::SelectedPersonID)) {
-      modID::CoupleSpouse1ID = couple.spouse1ID;
-      modID::CoupleSpouse2ID = couple.spouse2ID;
-    }
+  Database database = DBEngine::OpenDatabase();
+  if (const auto couple =
+          Couples::LastOf(*database.OpenRecordset(QStringLiteral("Ann"), Database::kTable), modID::SelectedPersonID)) {
+    modID::CoupleSpouse1ID = couple->spouse1ID;
+    modID::CoupleSpouse2ID = couple->spouse2ID;
   }
+  database.Close();
   Leave(index == 0 ? "frmNew" : "frmAnn");
 }
 

@@ -8,6 +8,7 @@
 #include "controls/Label.h"
 #include "lookup/NameList.h"
 #include "lookup/PersonResults.h"
+#include "lookup/ResultTitles.h"
 #include "people/PagePicture.h"
 
 #include <QTimer>
@@ -52,6 +53,7 @@ private:
   // The list.
   void DAOPeople();
   void ResetSelection();
+  void ShowNobody();
   void SetSelected(int personID);
 
   // The boxes.
@@ -81,6 +83,7 @@ private:
   ControlArray<QRadioButton> optData_;
   QTimer tmrTimer_;
   PersonResults results_;
+  ResultTitles titles_;
   NameList names_;
   PagePicture picture_;
   int selectedID_ = 0;

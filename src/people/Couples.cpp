@@ -18,6 +18,11 @@ int KeyIn(Recordset& couples, const char* column)
   return couples.Fields(QLatin1String(column)).Value().toInt();
 }
 
+Couple Current(Recordset& couples)
+{
+  return {KeyIn(couples, "AnnID"), KeyIn(couples, "Spouse1ID"), KeyIn(couples, "Spouse2ID")};
+}
+
 }
 
 bool Find(Recordset& table, const char* index, int key)
@@ -32,12 +37,24 @@ std::vector<Couple> Of(Recordset& couples, int personID)
   std::vector<Couple> found;
   for (const char* index : {"Spouse1ID", "Spouse2ID"}) {
     if (Find(couples, index, personID)) {
-      found.push_back({KeyIn(couples, "AnnID"), KeyIn(couples, "Spouse1ID"), KeyIn(couples, "Spouse2ID")});
+      found.push_back(Current(couples));
     }
   }
   std::sort(found.begin(), found.end(), [](const Couple& a, const Couple& b) { return a.annID < b.annID; });
   const auto same = [](const Couple& a, const Couple& b) { return a.annID == b.annID; };
   found.erase(std::unique(found.begin(), found.end(), same), found.end());
+  return found;
+}
+
+std::optional<Couple> LastOf(Recordset& couples, int personID)
+{
+  std::optional<Couple> found;
+  for (; !couples.Eof(); couples.MoveNext()) {
+    const Couple couple = Current(couples);
+    if (couple.spouse1ID == personID || couple.spouse2ID == personID) {
+      found = couple;
+    }
+  }
   return found;
 }
 

@@ -5,6 +5,7 @@
 
 #include "store/Database.h"
 
+#include <optional>
 #include <vector>
 
 // The couples that a person belongs to. Cursors handed in are table cursors on "Ann".
@@ -25,6 +26,9 @@ bool Find(Recordset& table, const char* index, int key);
 
 // In the order of the table. There is one at the most, unless the file was damaged.
 [[nodiscard]] std::vector<Couple> Of(Recordset& couples, int personID);
+
+// The last in the table, which is walked to its end, whatever its indexes say.
+[[nodiscard]] std::optional<Couple> LastOf(Recordset& couples, int personID);
 
 // Stands on the couple. False if it is gone.
 bool GoTo(Recordset& couples, const Couple& couple);
