@@ -11,10 +11,15 @@
 
 namespace {
 
-const QColor kLit(0xFF, 0xF9, 0xE9);
 constexpr int kNone = -1;
 constexpr int kMarkWidth = 3;
 constexpr int kTextMargin = 4;
+
+// The list whose viewport it is, or null.
+ListBox* ListOf(const QObject* viewport)
+{
+  return qobject_cast<ListBox*>(viewport->parent());
+}
 
 QString CutOffLine(const ListBox& list, const QPoint& point)
 {
@@ -39,11 +44,6 @@ CellHover::CellHover(Form& form, const ControlArray<ListBox>& lists, const Contr
   }
 }
 
-ListBox* CellHover::ListOf(const QObject* viewport) const
-{
-  return qobject_cast<ListBox*>(viewport->parent());
-}
-
 bool CellHover::eventFilter(QObject* watched, QEvent* event)
 {
   ListBox* list = ListOf(watched);
@@ -63,10 +63,10 @@ bool CellHover::eventFilter(QObject* watched, QEvent* event)
 
 void CellHover::MoveOver(ListBox& list, const QPoint& point)
 {
-  if (list.BackColor() != kLit) {
+  if (list.BackColor() != modMouseMove::kLitList) {
     modMouseMove::ResetAll(form_);
     modMouseMove::Highlight(form_, modMouseMove::Row::kReminders, kNone);
-    list.SetBackColor(kLit);
+    list.SetBackColor(modMouseMove::kLitList);
   }
   const QRect line = list.visualRect(list.indexAt(point));
   mark_.setVisible(line.isValid());

@@ -20,7 +20,6 @@ public:
   bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-  [[nodiscard]] ListBox* ListOf(const QObject* viewport) const;
   void MoveOver(ListBox& list, const QPoint& point);
   void Leave();
   static bool ShowTip(const ListBox& list, const QPoint& point, const QPoint& onScreen);

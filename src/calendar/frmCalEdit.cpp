@@ -9,11 +9,11 @@
 #include "calendar/MonthShape.h"
 #include "calendar/PresetTitles.h"
 #include "calendar/modCalVariables.h"
+#include "controls/FixedDialog.h"
 #include "controls/ListBox.h"
 #include "looks/modMouseMove.h"
 #include "looks/modThemes.h"
 #include "looks/modToolTips.h"
-#include "platform/App.h"
 #include "platform/Attempt.h"
 #include "platform/Command.h"
 #include "platform/MsgBox.h"
@@ -78,10 +78,7 @@ frmCalEdit::frmCalEdit()
       tmrTimer_(this)
 {
   ui_->setupUi(this);
-  setFixedSize(size());
-  setWindowFlags(Qt::Dialog | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint |
-                 Qt::CustomizeWindowHint);
-  setWindowIcon(QIcon(App::File(QStringLiteral("/animp.ico"))));
+  MakeFixedDialog(*this);
   tmrTimer_.setObjectName(QStringLiteral("tmrTimer"));
   tmrTimer_.setInterval(kTickMilliseconds);
   lblOptions_.Collect(*this, QStringLiteral("lblOptions"));

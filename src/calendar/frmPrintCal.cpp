@@ -3,6 +3,7 @@
 
 #include "calendar/frmPrintCal.h"
 
+#include "controls/FixedDialog.h"
 #include "controls/Forms.h"
 #include "looks/modMouseMove.h"
 #include "looks/modThemes.h"
@@ -13,6 +14,8 @@
 #include "platform/Printer.h"
 #include "store/DBEngine.h"
 #include "ui_frmPrintCal.h"
+
+#include <QKeyEvent>
 
 namespace {
 
@@ -25,6 +28,7 @@ frmPrintCal::frmPrintCal()
     : Form(QStringLiteral("frmPrintCal"), Kind::kWindow), ui_(std::make_unique<Ui::frmPrintCal>())
 {
   ui_->setupUi(this);
+  MakeFixedDialog(*this);
   lblOptions_.Collect(*this, QStringLiteral("lblOptions"));
   connect(&lblOptions_, &ControlArraySignals::Click, this, &frmPrintCal::lblOptions_Click);
 }
@@ -36,6 +40,13 @@ void frmPrintCal::Form_Load()
   modToolTips::SetTips(*this);
   modThemes::ApplyTheme();
   modMouseMove::Watch(*this);
+}
+
+void frmPrintCal::keyPressEvent(QKeyEvent* event)
+{
+  if (event->key() == Qt::Key_Escape) {
+    Unload();
+  }
 }
 
 void frmPrintCal::lblOptions_Click(int index)
@@ -55,16 +66,18 @@ void frmPrintCal::Print()
   }
   using CalendarPrinting::Format;
   const Format format = ui_->optFormat_0->isChecked() ? Format::kPortrait : Format::kLandscape;
-  if (Attempt([&] { PrintMonth(format); })) {
+  const Form& calendar = Forms::Load(QStringLiteral("frmReminders"));
+  calendar.Control(QStringLiteral("txtNotesDisplay"))->hide();
+  if (Attempt([&] { PrintMonth(calendar, format); })) {
     MsgBox(QStringLiteral("Printing completed"));
   } else {
     Attempt([] { Printer::EndDoc(); });
   }
 }
 
-void frmPrintCal::PrintMonth(CalendarPrinting::Format format)
+void frmPrintCal::PrintMonth(const Form& calendar, CalendarPrinting::Format format)
 {
-  const PrintedMonth month = ReadCalendar(Forms::Load(QStringLiteral("frmReminders")));
+  const PrintedMonth month = ReadCalendar(calendar);
   ShowPrinter();
   CalendarPrinting::PrintGrid(month, format);
   if (ui_->chkList->isChecked()) {

@@ -25,13 +25,14 @@ public:
 
 protected:
   void Form_Load() override;
+  void keyPressEvent(QKeyEvent* event) override;
 
 private Q_SLOTS:
   void lblOptions_Click(int index);
 
 private:
   void Print();
-  void PrintMonth(CalendarPrinting::Format format);
+  void PrintMonth(const Form& calendar, CalendarPrinting::Format format);
 
   std::unique_ptr<Ui::frmPrintCal> ui_;
   ControlArray<Label> lblOptions_;

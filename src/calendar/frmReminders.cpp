@@ -40,7 +40,7 @@ constexpr int kFirstYear = 1900;
 constexpr int kLastYear = 2050;
 constexpr int kLastOfFirstRow = 6;
 constexpr int kFirstOfFifthRow = 28;
-constexpr int kNoCell = -1;
+constexpr int kNone = -1;
 
 const QColor kDayColour(209, 140, 65);
 const QColor kTodayColour(0, 0, 255);
@@ -148,7 +148,6 @@ void frmReminders::PlaceBottomRule()
 void frmReminders::Forward()
 {
   ++CalMonth;
-  WorkOutMonth();
   if (CalMonth > 12) {
     CalMonth = 1;
     ++CalYear;
@@ -159,7 +158,6 @@ void frmReminders::Forward()
 void frmReminders::Back()
 {
   --CalMonth;
-  WorkOutMonth();
   if (CalMonth < 1) {
     CalMonth = 12;
     --CalYear;
@@ -245,10 +243,11 @@ void frmReminders::DrawCell(int cell, int days, int firstWeekday)
   }
   CalCellDates[cell] = DateText(date);
   const int day = MonthShape::DayOf(cell, firstWeekday);
+  Label& label = lblDay_[cell];
   if (day < 1 || day > days) {
+    label.clear();
     return;
   }
-  Label& label = lblDay_[cell];
   label.setText(QString::number(day));
   label.SetForeColor(date == Clock::Today() ? kTodayColour : kDayColour);
   label.setAccessibleName(QStringLiteral("%1 %2, %3").arg(CalMonthName).arg(day).arg(CalYear));
@@ -315,6 +314,7 @@ void frmReminders::lblDay_Click(int index)
 void frmReminders::lstReminders_Click(int index)
 {
   const ListBox& cell = lstReminders_[index];
+  ui_->txtNotesDisplay->hide();
   ForgetChoices(index);
   CalSelectedDate = DateOfDay(index);
   Database database = DBEngine::OpenDatabase();
@@ -343,7 +343,7 @@ void frmReminders::ForgetChoices(int except)
 {
   for (const auto& [index, list] : lstReminders_.All()) {
     if (index != except) {
-      list->SetListIndex(kNoCell);
+      list->SetListIndex(kNone);
     }
   }
 }
@@ -392,8 +392,10 @@ void frmReminders::HideAbove()
 
 bool frmReminders::eventFilter(QObject* watched, QEvent* event)
 {
-  if (watched == ui_->picReminders && event->type() == QEvent::MouseButtonPress) {
-    HideAbove();
+  if (watched == ui_->picReminders && event->type() == QEvent::MouseButtonRelease) {
+    if (static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton) {
+      HideAbove();
+    }
   } else if (watched == ui_->picReminders && event->type() == QEvent::Resize) {
     PlaceBottomRule();
   } else if (watched == ui_->txtNotesDisplay->viewport() && event->type() == QEvent::MouseButtonRelease) {
@@ -428,7 +430,7 @@ void frmReminders::WalkDays(int key)
                                     {Qt::Key_Down, MonthShape::kColumns}};
   const auto step = steps.find(key);
   for (const auto& [index, day] : lblDay_.All()) {
-    const int next = step == steps.end() ? kNoCell : index + step->second;
+    const int next = step == steps.end() ? kNone : index + step->second;
     if (day->hasFocus() && next >= 0 && next < MonthShape::kCells && lblDay_[next].isVisible()) {
       lblDay_[next].setFocus(Qt::TabFocusReason);
       return;

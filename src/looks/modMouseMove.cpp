@@ -17,7 +17,6 @@ namespace modMouseMove {
 namespace {
 
 const QColor kLitText(0xD1, 0x8C, 0x41);
-const QColor kLitList(0xFF, 0xF9, 0xE9);
 constexpr int kRowCount = 7;
 
 struct Look

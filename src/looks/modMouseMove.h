@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include <QColor>
+
 class Form;
 
 // Labels and lists that light up under the mouse.
@@ -19,6 +21,9 @@ enum class Row
   kData,         // lblData
   kReminders,    // lstReminders, lit by the calendar itself
 };
+
+// The back colour of a list of the calendar while it is lit.
+inline const QColor kLitList(0xFF, 0xF9, 0xE9);
 
 // Lights one element of the form's array and puts out all others. An index outside the
 // array only puts out.

@@ -72,25 +72,30 @@ QString OpeningOf(Recordset& person, LetterProgram program, bool withAddress)
 
 void WriteLetter(NameList& names, LetterProgram program, bool withAddress)
 {
-  if (!MustHaveSelected(names, "You must first select a person")) {
-    return;
-  }
-  if (!Attempt([&] { Letters::Open(program, OpeningOf(names.Person(), program, withAddress)); })) {
+  const bool ended = Attempt([&] {
+    if (MustHaveSelected(names, "You must first select a person")) {
+      Letters::Open(program, OpeningOf(names.Person(), program, withAddress));
+    }
+  });
+  if (!ended) {
     MsgBox(QLatin1String(FailureOf(program)));
   }
 }
 
+// A list that could not be read has no one to write to.
 void SendEmail(NameList& names)
 {
-  if (!MustHaveSelected(names, "You must first select a name")) {
-    return;
-  }
-  const QString address = TextIn(names.Person(), "Email");
-  if (address.isEmpty()) {
-    MsgBox(QStringLiteral("Sorry, there is no email address for this person in the database"));
-  } else {
-    Mail::Write(address);
-  }
+  Attempt([&] {
+    if (!MustHaveSelected(names, "You must first select a name")) {
+      return;
+    }
+    const QString address = TextIn(names.Person(), "Email");
+    if (address.isEmpty()) {
+      MsgBox(QStringLiteral("Sorry, there is no email address for this person in the database"));
+    } else {
+      Mail::Write(address);
+    }
+  });
 }
 
 }

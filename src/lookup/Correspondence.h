@@ -7,7 +7,8 @@
 
 class NameList;
 
-// Writing to the selected person, who is the cursor's. Says what keeps it from it.
+// Writing to the selected person, who is the cursor's. Tells the user what is missing, if
+// anything is.
 namespace Correspondence {
 
 // Begins a letter in a program of that kind.

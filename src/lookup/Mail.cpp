@@ -30,7 +30,7 @@ void Write(const QString& address)
 
 QUrl AddressOf(const QString& address)
 {
-  return QUrl::fromEncoded("mailto:" + QUrl::toPercentEncoding(WithoutControls(address), "@"), QUrl::StrictMode);
+  return QUrl::fromEncoded("mailto:%20" + QUrl::toPercentEncoding(WithoutControls(address), "@"), QUrl::StrictMode);
 }
 
 }

@@ -64,7 +64,8 @@ QStringList NotesLines(const QString& notes, const QFont& font)
 {
   QStringList lines = WrappedLines(notes, font, kNotesWidth);
   for (QString& line : lines) {
-    line.truncate(kLongestLine);
+    const bool halves = line.size() > kLongestLine && line[kLongestLine - 1].isHighSurrogate();
+    line.truncate(halves ? kLongestLine - 1 : kLongestLine);
   }
   return lines;
 }

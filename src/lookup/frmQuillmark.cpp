@@ -13,16 +13,10 @@
 #include "looks/modToolTips.h"
 #include "lookup/ClipboardText.h"
 #include "lookup/Correspondence.h"
-#include "lookup/PrintedLines.h"
-#include "lookup/RecordPrinting.h"
 #include "people/Couples.h"
 #include "people/modImages.h"
 #include "platform/Attempt.h"
-#include "platform/Clock.h"
 #include "platform/MsgBox.h"
-#include "platform/PrintDialog.h"
-#include "platform/PrintProgress.h"
-#include "platform/Printer.h"
 #include "store/DBEngine.h"
 #include "store/Queries.h"
 #include "ui_frmQuillmark.h"
@@ -70,6 +64,7 @@ frmQuillmark::frmQuillmark()
                {}},
       titles_(*ui_->txtContact, *ui_->txtSpecial, *ui_->chkNotes),
       names_(*ui_->lstNames),
+      printing_(names_, results_, *ui_->txtHidden, [this] { FindWanted(); }),
       picture_(*ui_->picPerson, *ui_->imgPerson, *ui_->picThemes)
 {
   lblOptions_.Collect(*this, QStringLiteral("lblOptions"));
@@ -178,34 +173,46 @@ void frmQuillmark::SetSelected(int personID)
 void frmQuillmark::lstNames_Click()
 {
   ui_->lblExplain->hide();
-  SetSelected(names_.GoToChosen());
-  if (selectedID_ == 0) {
-    ShowNobody();
+  if (names_.IsEmpty()) {
     return;
   }
+  SetSelected(names_.GoToChosen());
+  if (selectedID_ == 0 || !Attempt([this] { ShowPerson(); })) {
+    SetSelected(0);
+    ShowNobody();
+  }
+}
+
+void frmQuillmark::ShowPerson()
+{
   FindWanted();
   TitleChange();
   picture_.Show(QStringLiteral("/PeoplePics/%1.bmp").arg(selectedID_));
   ui_->lblName->setText(ValueOf("FirstName") + QLatin1Char(' ') + ValueOf("LastName"));
 }
 
+// A tick for a person who is gone by now shows nothing more; here and below.
 void frmQuillmark::chkInfo_Click()
 {
   FindContact();
-  TitleChange();
+  Attempt([this] { TitleChange(); });
 }
 
 void frmQuillmark::chkPersonal_Click()
 {
   ui_->lblExplain->hide();
-  FindSpecial();
-  TitleChange();
+  Attempt([this] {
+    FindSpecial();
+    TitleChange();
+  });
 }
 
 void frmQuillmark::chkNotes_Click()
 {
-  FindNotes();
-  TitleChange();
+  Attempt([this] {
+    FindNotes();
+    TitleChange();
+  });
 }
 
 void frmQuillmark::lblAll_Click(int index)
@@ -213,7 +220,7 @@ void frmQuillmark::lblAll_Click(int index)
   for (ResultBox* box : results_.All()) {
     box->SetWanted(index == kCheckAll);
   }
-  TitleChange();
+  Attempt([this] { TitleChange(); });
 }
 
 void frmQuillmark::FindWanted()
@@ -239,23 +246,18 @@ void frmQuillmark::FindContact()
   }
 }
 
-// Nothing more is shown of a person who is gone by now; here and below.
 void frmQuillmark::FindSpecial()
 {
-  Attempt([this] {
-    if (modID::SelectedPersonID != 0 && results_.ShowSpecial(names_.Person())) {
-      ui_->lblExplain->show();
-    }
-  });
+  if (modID::SelectedPersonID != 0 && results_.ShowSpecial(names_.Person())) {
+    ui_->lblExplain->show();
+  }
 }
 
 void frmQuillmark::FindNotes()
 {
-  Attempt([this] {
-    if (modID::SelectedPersonID != 0) {
-      results_.ShowNotes(names_.Person());
-    }
-  });
+  if (modID::SelectedPersonID != 0) {
+    results_.ShowNotes(names_.Person());
+  }
 }
 
 QString frmQuillmark::ValueOf(const char* column)
@@ -266,7 +268,7 @@ QString frmQuillmark::ValueOf(const char* column)
 void frmQuillmark::TitleChange()
 {
   if (modID::SelectedPersonID != 0) {
-    Attempt([this] { titles_.Show(ValueOf("FirstName"), results_); });
+    titles_.Show(ValueOf("FirstName"), results_);
   }
 }
 
@@ -282,7 +284,7 @@ void frmQuillmark::lblOptions_Click(int index)
       OpenPanel(*ui_->fraPrint);
       break;
     case kPrint:
-      Print();
+      printing_.Print({ui_->optPrint_0->isChecked(), ui_->optPrint_1->isChecked(), ui_->chkDate->isChecked()});
       break;
     case kExitPrint:
       ClosePrint();
@@ -323,71 +325,6 @@ void frmQuillmark::OpenPanel(QWidget& panel)
 {
   panel.raise();
   panel.show();
-}
-
-// A printing that fails or is cancelled ends without a word. That of everybody has left the
-// person of the chosen line, so that nobody is selected then.
-void frmQuillmark::Print()
-{
-  if (names_.IsEmpty()) {
-    MsgBox(QStringLiteral("There are no records in the database"));
-  } else if (!results_.AnyWanted()) {
-    MsgBox(QStringLiteral("Please select items to print, such as address, birthday and so on."));
-  } else if (ui_->optPrint_0->isChecked() && modID::SelectedPersonID == 0) {
-    MsgBox(QStringLiteral("Please select a name"));
-  } else if (!ui_->optPrint_0->isChecked() && !ui_->optPrint_1->isChecked()) {
-    MsgBox(QStringLiteral("You must select a printing option"));
-  } else if (Attempt([this] { PrintPeople(); })) {
-    MsgBox(QStringLiteral("Printing completed"));
-  } else {
-    Attempt([] { Printer::EndDoc(); });
-    if (ui_->optPrint_1->isChecked()) {
-      modID::SelectedPersonID = 0;
-    }
-  }
-}
-
-void frmQuillmark::PrintPeople()
-{
-  if (ui_->optPrint_0->isChecked()) {
-    BeginPrinting();
-    PrintPerson();
-  } else {
-    names_.Person().MoveLast();
-    names_.Person().MoveFirst();
-    modID::SelectedPersonID = ValueOf("PeopleID").toInt();
-    BeginPrinting();
-    PrintEverybody();
-  }
-  Printer::EndDoc();
-}
-
-void frmQuillmark::BeginPrinting()
-{
-  ShowPrinter();
-  PrintedLines::SetBodyFont();
-  if (ui_->chkDate->isChecked()) {
-    PrintedLines::Print(PrintedLines::DateText(Clock::Today()));
-    Printer::Print();
-  }
-}
-
-void frmQuillmark::PrintEverybody()
-{
-  PrintProgress progress(names_.Count());
-  for (; !names_.Person().Eof(); names_.Person().MoveNext()) {
-    FindWanted();
-    PrintPerson();
-    progress.Step();
-  }
-  modID::SelectedPersonID = 0;
-}
-
-void frmQuillmark::PrintPerson()
-{
-  ui_->txtHidden->SetText(ui_->txtNotes->Text());
-  RecordPrinting::PrintStuff(ValueOf("FullName"), results_,
-                             RecordPrinting::NotesLines(ui_->txtHidden->Text(), ui_->txtHidden->font()));
 }
 
 void frmQuillmark::ClosePrint()

@@ -7,6 +7,7 @@
 #include "controls/Form.h"
 #include "controls/Label.h"
 #include "lookup/NameList.h"
+#include "lookup/PeoplePrinting.h"
 #include "lookup/PersonResults.h"
 #include "lookup/ResultTitles.h"
 #include "people/PagePicture.h"
@@ -57,6 +58,7 @@ private:
   void SetSelected(int personID);
 
   // The boxes.
+  void ShowPerson();
   void FindWanted();
   void FindContact();
   void FindSpecial();
@@ -66,11 +68,6 @@ private:
 
   // The commands.
   void OpenPanel(QWidget& panel);
-  void Print();
-  void PrintPeople();
-  void BeginPrinting();
-  void PrintEverybody();
-  void PrintPerson();
   void ClosePrint();
   void CloseLetter();
   void Clip();
@@ -85,6 +82,7 @@ private:
   PersonResults results_;
   ResultTitles titles_;
   NameList names_;
+  PeoplePrinting printing_;
   PagePicture picture_;
   int selectedID_ = 0;
   int lastOrder_ = 0;

@@ -14,7 +14,7 @@ inline constexpr int kBottomMargin = 1000;
 inline int ListTop = 0;
 
 // Starts a printed line: goes to the left margin, on a fresh page to the top margin too, and to
-// the next page where the bottom margin is reached. Then ListTop is at the top margin as well.
+// the next page where the bottom margin is passed. Then ListTop is at the top margin as well.
 void PrinterMargins();
 
 }

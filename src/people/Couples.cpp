@@ -51,7 +51,7 @@ std::optional<Couple> LastOf(Recordset& couples, int personID)
   std::optional<Couple> found;
   for (; !couples.Eof(); couples.MoveNext()) {
     const Couple couple = Current(couples);
-    if (couple.spouse1ID == personID || couple.spouse2ID == personID) {
+    if (personID != 0 && (couple.spouse1ID == personID || couple.spouse2ID == personID)) {
       found = couple;
     }
   }

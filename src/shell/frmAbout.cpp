@@ -3,11 +3,11 @@
 
 #include "shell/frmAbout.h"
 
+#include "controls/FixedDialog.h"
 #include "controls/Frame.h"
 #include "looks/modMouseMove.h"
 #include "looks/modThemes.h"
 #include "looks/modToolTips.h"
-#include "platform/App.h"
 #include "platform/LoadPicture.h"
 #include "platform/Shell.h"
 #include "ui_frmAbout.h"
@@ -31,10 +31,7 @@ frmAbout::frmAbout() : Form(QStringLiteral("frmAbout"), Kind::kWindow), ui_(std:
 {
   LoadResources();
   ui_->setupUi(this);
-  setFixedSize(size());
-  setWindowFlags(Qt::Dialog | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint |
-                 Qt::CustomizeWindowHint);
-  setWindowIcon(QIcon(App::File(QStringLiteral("/animp.ico"))));
+  MakeFixedDialog(*this);
   ui_->picLogo->SetPicture(LoadPicture(QStringLiteral(":/shell/logo.svg")));
   lblOptions_.Collect(*this, QStringLiteral("lblOptions"));
   lblOptions_[kMailAddress].SetFontUnderline(true);

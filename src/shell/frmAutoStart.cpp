@@ -3,6 +3,7 @@
 
 #include "shell/frmAutoStart.h"
 
+#include "controls/FixedDialog.h"
 #include "looks/modMouseMove.h"
 #include "looks/modThemes.h"
 #include "platform/App.h"
@@ -33,9 +34,7 @@ frmAutoStart::frmAutoStart()
     : Form(QStringLiteral("frmAutoStart"), Kind::kWindow), ui_(std::make_unique<Ui::frmAutoStart>())
 {
   ui_->setupUi(this);
-  setFixedSize(size());
-  setWindowFlags(Qt::Dialog | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint |
-                 Qt::CustomizeWindowHint);
+  MakeFixedDialog(*this);
   lblOptions_.Collect(*this, QStringLiteral("lblOptions"));
   lblNotice_.Collect(*this, QStringLiteral("lblNotice"));
   ConnectControls();

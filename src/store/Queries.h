@@ -96,7 +96,7 @@ inline const QString kEventsOfMonth = QStringLiteral(
     "SELECT Reminders.Date, Reminders.Event, Reminders.Month, Reminders.Time, Reminders.Notes From Reminders "
     "ORDER by Reminders.Month, Reminders.Time");
 
-// One event, on the calendar and in its editor.
+// Events with their keys, on the calendar and in its editor.
 inline const QString kEvents = QStringLiteral(
     "SELECT Reminders.Date, Reminders.ID, Reminders.Event, Reminders.Month, Reminders.Time, Reminders.Notes "
     "From Reminders ORDER by Reminders.Month, Reminders.Time");

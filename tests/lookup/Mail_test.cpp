@@ -22,23 +22,23 @@ struct Case
 };
 
 const Case kAddresses[] = {
-    {"ann@example.org", "mailto:ann@example.org"},
-    {" ann@example.org ", "mailto:ann@example.org"},
-    {"ann+list@example.org", "mailto:ann%2Blist@example.org"},
-    {"ann@x.org?cc=bob@x.org", "mailto:ann@x.org%3Fcc%3Dbob@x.org"},
-    {"ann@x.org&bcc=bob@x.org", "mailto:ann@x.org%26bcc%3Dbob@x.org"},
-    {"ann@x.org%3Fcc=bob", "mailto:ann@x.org%253Fcc%3Dbob"},
-    {"ann@x.org#top", "mailto:ann@x.org%23top"},
-    {"ann@x.org,bob@x.org;eve@x.org", "mailto:ann@x.org%2Cbob@x.org%3Beve@x.org"},
-    {"ann@x.org\r\nBcc: bob@x.org\n", "mailto:ann@x.orgBcc%3A%20bob@x.org"},
-    {u"ann@x.org\u2028Bcc:b\u0000c\u0085d\u001B"_qs, "mailto:ann@x.orgBcc%3Abcd"},
-    {"--attach=/etc/passwd", "mailto:--attach%3D%2Fetc%2Fpasswd"},
-    {"-a@x.org", "mailto:-a@x.org"},
-    {"\"Ann Lee\" <ann@x.org>", "mailto:%22Ann%20Lee%22%20%3Cann@x.org%3E"},
-    {"o'neil@x.org", "mailto:o%27neil@x.org"},
-    {"`id`$(id)|id\\@x.org", "mailto:%60id%60%24%28id%29%7Cid%5C@x.org"},
-    {"//example.org/x", "mailto:%2F%2Fexample.org%2Fx"},
-    {u"zo\u00EB@x.org"_qs, "mailto:zo%C3%AB@x.org"},
+    {"ann@example.org", "mailto:%20ann@example.org"},
+    {" ann@example.org ", "mailto:%20ann@example.org"},
+    {"ann+list@example.org", "mailto:%20ann%2Blist@example.org"},
+    {"ann@x.org?cc=bob@x.org", "mailto:%20ann@x.org%3Fcc%3Dbob@x.org"},
+    {"ann@x.org&bcc=bob@x.org", "mailto:%20ann@x.org%26bcc%3Dbob@x.org"},
+    {"ann@x.org%3Fcc=bob", "mailto:%20ann@x.org%253Fcc%3Dbob"},
+    {"ann@x.org#top", "mailto:%20ann@x.org%23top"},
+    {"ann@x.org,bob@x.org;eve@x.org", "mailto:%20ann@x.org%2Cbob@x.org%3Beve@x.org"},
+    {"ann@x.org\r\nBcc: bob@x.org\n", "mailto:%20ann@x.orgBcc%3A%20bob@x.org"},
+    {u"ann@x.org\u2028Bcc:b\u0000c\u0085d\u001B"_qs, "mailto:%20ann@x.orgBcc%3Abcd"},
+    {"--attach=/etc/passwd", "mailto:%20--attach%3D%2Fetc%2Fpasswd"},
+    {"-a@x.org", "mailto:%20-a@x.org"},
+    {"\"Ann Lee\" <ann@x.org>", "mailto:%20%22Ann%20Lee%22%20%3Cann@x.org%3E"},
+    {"o'neil@x.org", "mailto:%20o%27neil@x.org"},
+    {"`id`$(id)|id\\@x.org", "mailto:%20%60id%60%24%28id%29%7Cid%5C@x.org"},
+    {"//example.org/x", "mailto:%20%2F%2Fexample.org%2Fx"},
+    {u"zo\u00EB@x.org"_qs, "mailto:%20zo%C3%AB@x.org"},
 };
 
 // A virtual display: without one the toolkit hands nothing over.
@@ -121,7 +121,8 @@ TEST_F(MailTest, TheMailProgramThatTheUserChoseIsStarted)
   desktop_.LayEntry("mailer.desktop", "mailer --compose %u", "MimeType=x-scheme-handler/mailto;");
   desktop_.Choose("x-scheme-handler/mailto", "mailer.desktop");
   Write("--x@y.org\n?cc=`id`&\"b\"");
-  EXPECT_EQ(desktop_.AwaitStart(1).arguments, (QStringList{"--compose", "mailto:--x@y.org%3Fcc%3D%60id%60%26%22b%22"}));
+  EXPECT_EQ(desktop_.AwaitStart(1).arguments,
+            (QStringList{"--compose", "mailto:%20--x@y.org%3Fcc%3D%60id%60%26%22b%22"}));
 }
 
 TEST_F(MailTest, AHandlerThatHangsKeepsNobodyWaiting)

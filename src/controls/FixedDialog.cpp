@@ -1,0 +1,17 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "controls/FixedDialog.h"
+
+#include "platform/App.h"
+
+#include <QIcon>
+#include <QWidget>
+
+void MakeFixedDialog(QWidget& window)
+{
+  window.setFixedSize(window.size());
+  window.setWindowFlags(Qt::Dialog | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint |
+                        Qt::CustomizeWindowHint);
+  window.setWindowIcon(QIcon(App::File(QStringLiteral("/animp.ico"))));
+}
