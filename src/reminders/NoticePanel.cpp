@@ -12,8 +12,6 @@
 namespace {
 
 constexpr int kMostDays = 30;
-constexpr int kOneDay = 0;
-constexpr int kManyDays = 1;
 
 QStringList Numbers()
 {
@@ -22,6 +20,11 @@ QStringList Numbers()
     numbers.append(QString::number(days));
   }
   return numbers;
+}
+
+int IndexOf(DayRule rule)
+{
+  return static_cast<int>(rule);
 }
 
 }
@@ -42,11 +45,11 @@ void NoticePanel::Load(Recordset& options)
   const QString length = rule.length ? QString::number(*rule.length) : QString();
   controls_.days->AddItems(Numbers());
   if (rule.once) {
-    Select(kOneDay);
+    Select(DayRule::kOneDay);
     controls_.days->SetText(length);
   }
   if (rule.many) {
-    Select(kManyDays);
+    Select(DayRule::kManyDays);
     controls_.days->SetText(length);
   }
   controls_.status->setText(StatusTexts::StatusOf(kind_, rule));
@@ -68,7 +71,7 @@ std::optional<QString> NoticePanel::ClosingMessage() const
   state.on = NoticeSettings::IsOn(kind_);
   state.hasMethod = NoticeSettings::ReadMethods().Any();
   state.daysShown = !controls_.days->Text().isEmpty();
-  state.optionChosen = options_[kOneDay].isChecked() || options_[kManyDays].isChecked();
+  state.optionChosen = IsChosen(DayRule::kOneDay) || IsChosen(DayRule::kManyDays);
   return NoticeSettings::ClosingMessage(kind_, state);
 }
 
@@ -81,9 +84,9 @@ void NoticePanel::Reset()
 void NoticePanel::days_Click()
 {
   controls_.cancel->setChecked(false);
-  if (options_[kOneDay].isChecked()) {
+  if (IsChosen(DayRule::kOneDay)) {
     SaveRule(DayRule::kOneDay);
-  } else if (options_[kManyDays].isChecked()) {
+  } else if (IsChosen(DayRule::kManyDays)) {
     SaveRule(DayRule::kManyDays);
   }
 }
@@ -91,7 +94,7 @@ void NoticePanel::days_Click()
 void NoticePanel::options_Click(int index)
 {
   controls_.cancel->setChecked(false);
-  SaveRule(index == kOneDay ? DayRule::kOneDay : DayRule::kManyDays);
+  SaveRule(static_cast<DayRule>(index));
 }
 
 void NoticePanel::days_KeyDown(int key)
@@ -100,7 +103,11 @@ void NoticePanel::days_KeyDown(int key)
     return;
   }
   controls_.days->SetText({});
-  NoticeSettings::DropDays(kind_);
+  if (key == Qt::Key_Backspace || NoticeSettings::IsOn(kind_)) {
+    NoticeSettings::DropDays(kind_);
+  } else {
+    NoticeSettings::DropUnusedDays(kind_);
+  }
   controls_.status->setText(StatusTexts::NoStatus(kind_));
 }
 
@@ -146,12 +153,17 @@ void NoticePanel::SetMethod(const NoticeSettings::Methods& methods)
 }
 
 // Tab comes to the selected option, as it does once the user has clicked it.
-void NoticePanel::Select(int index)
+void NoticePanel::Select(DayRule rule)
 {
-  options_[index].setChecked(true);
+  options_[IndexOf(rule)].setChecked(true);
   for (const auto& [each, option] : options_.All()) {
-    option->setFocusPolicy(each == index ? Qt::StrongFocus : Qt::ClickFocus);
+    option->setFocusPolicy(each == IndexOf(rule) ? Qt::StrongFocus : Qt::ClickFocus);
   }
+}
+
+bool NoticePanel::IsChosen(DayRule rule) const
+{
+  return options_[IndexOf(rule)].isChecked();
 }
 
 // The toolkit keeps one of an exclusive group chosen.

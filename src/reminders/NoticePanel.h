@@ -53,7 +53,8 @@ private:
   void SaveRule(DayRule rule);
   void SwitchOff();
   void SetMethod(const NoticeSettings::Methods& methods);
-  void Select(int index);
+  void Select(DayRule rule);
+  [[nodiscard]] bool IsChosen(DayRule rule) const;
   void DeselectOptions();
 
   ReminderKind kind_;

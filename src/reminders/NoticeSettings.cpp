@@ -40,6 +40,11 @@ void DropDays(ReminderKind kind)
   Options::Write({{RuleColumn(kind, "Audio"), false}, {RuleColumn(kind, "Length"), QVariant()}});
 }
 
+void DropUnusedDays(ReminderKind kind)
+{
+  Options::Write(RuleColumn(kind, "Length"), QVariant());
+}
+
 void Cancel(ReminderKind kind)
 {
   Options::Write({{RuleColumn(kind, "Audio"), false},

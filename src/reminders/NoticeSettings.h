@@ -29,11 +29,16 @@ struct Methods
 // True if reminders of the kind are switched on.
 [[nodiscard]] bool IsOn(ReminderKind kind);
 
-// Switches the kind on with this rule. Throws 13 if `days` is no number.
+// Switches the kind on with this rule. Throws 13 if `days` is no number, 6 if it needs
+// more than 32 bits.
 void SetRule(ReminderKind kind, DayRule rule, const QString& days);
 
 // Takes the number away, and with it the kind is off; the rule stays.
 void DropDays(ReminderKind kind);
+
+// Takes the number of a kind that is off away; the kind's switch stays, also where it was
+// never set.
+void DropUnusedDays(ReminderKind kind);
 
 // Switches the kind off and forgets its rule.
 void Cancel(ReminderKind kind);

@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "ReminderTest.h"
-#include "SilentClip.h"
 
 #include "reminders/Clips.h"
+#include "support/SilentClip.h"
 
 using modTextNotices::ClipFiles;
 using modTextNotices::ClipIndex;

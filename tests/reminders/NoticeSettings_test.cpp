@@ -73,8 +73,16 @@ TEST_F(NoticeSettingsTest, TakingTheNumberAwayKeepsTheRule)
   EXPECT_EQ(Row(), "0 0 1 - 1 0 1 7 1 0 1 3 1 1 1");
 }
 
-TEST_F(NoticeSettingsTest, ANumberThatIsNoneIsRefusedAndNothingWritten)
+TEST_F(NoticeSettingsTest, TakingAnUnusedNumberAwayLeavesTheSwitch)
 {
+  folder.Execute("UPDATE Options SET BirthAudio=NULL");
+  NoticeSettings::DropUnusedDays(kBirthday);
+  EXPECT_EQ(Row(), "- 0 1 - 1 0 1 7 1 0 1 3 1 1 1");
+}
+
+TEST_F(NoticeSettingsTest, ANumberThatIsNoneOrTooLargeIsRefusedAndNothingWritten)
+{
+  EXPECT_EQ(ErrorOf([] { NoticeSettings::SetRule(kBirthday, DayRule::kOneDay, QStringLiteral("3000000000")); }), 6);
   EXPECT_EQ(ErrorOf([] { NoticeSettings::SetRule(kBirthday, DayRule::kOneDay, QStringLiteral("soon")); }), 13);
   EXPECT_EQ(Row(), "1 0 1 7 1 0 1 7 1 0 1 3 1 1 1");
 }

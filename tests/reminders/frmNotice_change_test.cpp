@@ -132,6 +132,20 @@ TEST_F(NoticeChange, DeleteAndBackspaceTakeTheNumberAndLeaveTheRule)
   }
 }
 
+TEST_F(NoticeChange, DeleteLeavesASwitchThatWasNeverSetAndBackspaceSetsItToOff)
+{
+  Set("BirthAudio=NULL, AnnAudio=NULL, CalAudio=NULL");
+  Open();
+  for (const Panel& panel : kPanels) {
+    const std::string many = Rule(panel.prefix).substr(2, 3);
+    Press(panel.days, Qt::Key_Delete);
+    EXPECT_EQ(Rule(panel.prefix), "- " + many + " -");
+    EXPECT_EQ(Text(panel.status), panel.none);
+    Press(panel.days, Qt::Key_Backspace);
+    EXPECT_EQ(Rule(panel.prefix), "0 " + many + " -");
+  }
+}
+
 TEST_F(NoticeChange, OtherKeysChangeNoSetting)
 {
   Open();
@@ -243,6 +257,18 @@ TEST_F(NoticeChange, UntickingBothMethodsHidesTheLinesOfAllKindsThatAreOn)
   EXPECT_TRUE(IsShown("lblTextAudio"));
   EXPECT_TRUE(IsShown("lblTextAudioCal"));
   EXPECT_EQ(Text("lblTextAudio"), "Audio notification.");
+}
+
+TEST_F(NoticeChange, WithoutAMethodAKindThatComesOnKeepsItsLine)
+{
+  Open();
+  Press("cboAnnDays", Qt::Key_Delete);
+  ClickMark("chkTextAudio_0");
+  ClickMark("chkTextAudio_1");
+  Choose("cboAnnDays", 2);
+  EXPECT_EQ(Rule("Ann"), "1 0 1 2");
+  EXPECT_TRUE(IsShown("lblTextAudioAnn"));
+  EXPECT_EQ(Text("lblTextAudioAnn"), "Text and audio notification.");
 }
 
 TEST_F(NoticeChange, TheStartIsWritten)

@@ -2,17 +2,18 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "NoticePageTest.h"
-#include "SilentClip.h"
 
 #include "platform/HelpViewer.h"
 #include "reminders/Clips.h"
 #include "support/HelpOnScreen.h"
+#include "support/SilentClip.h"
 
 #include <QTimer>
 
 namespace {
 
 constexpr int kLong = 60'000;
+constexpr int kSecond = 1000;
 constexpr int kShort = 60;
 
 class NoticePreview : public NoticePageTest
@@ -54,11 +55,20 @@ TEST_F(NoticePreview, TheTimerRunsUntilTheClipHasEndedAndClosesIt)
 TEST_F(NoticePreview, ASecondClickRestartsTheClipThatIsOpen)
 {
   WriteClips(kLong);
+  WriteSilentClip(folder.File("/notices/hapbirth.wav"), kSecond);
+  const auto hasStopped = [] { return MediaDevice::Mode() == QStringLiteral("stopped"); };
   Open();
   Drive::Click(Page(), "lblOptions_1");
   Drive::Click(Page(), "lblOptions_2");
   EXPECT_EQ(MediaDevice::Mode(), QStringLiteral("playing"));
   EXPECT_TRUE(Timer().isActive());
+  Timer().stop();  // the clip is to stay open at its end
+  EXPECT_TRUE(QTest::qWaitFor(hasStopped)) << "the second clip is long";
+  Drive::Click(Page(), "lblOptions_3");
+  EXPECT_EQ(MediaDevice::Mode(), QStringLiteral("playing")) << "from the beginning";
+  EXPECT_TRUE(Timer().isActive());
+  Timer().stop();
+  EXPECT_TRUE(QTest::qWaitFor(hasStopped)) << "the third clip is long, too";
 }
 
 TEST_F(NoticePreview, ClosingThePageSilences)
