@@ -39,7 +39,7 @@ public:
   virtual void AllowDatabaseCare(bool allowed) = 0;
 
   // Whether the database may be compacted, as far as a window above the page is concerned:
-  // where the page forbids it, it stays forbidden. Nothing by default.
+  // where the page forbids it, it stays forbidden. A frame without that command takes no heed.
   virtual void AllowCompaction(bool allowed) { static_cast<void>(allowed); }
 
   // The one-second timer that follows the clips.

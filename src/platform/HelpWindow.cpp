@@ -198,7 +198,7 @@ void HelpWindow::Present()
   activateWindow();
 }
 
-// A window that waits for its user would keep the user from the help that he needs for
+// A window that waits for its user would keep the user from the help that they need for
 // it. Its own windows it lets through.
 void HelpWindow::FollowModalWindow()
 {

@@ -26,7 +26,8 @@ namespace StatusTexts {
 // A kind without.
 [[nodiscard]] QString NoStatus(ReminderKind kind);
 
-// A kind by its rule as it is stored. A rule without a number counts as none.
+// A kind by its rule as it is stored, whether it is on or off; the one-day rule goes before
+// the other. A rule without a number, or with one below 0, counts as none.
 [[nodiscard]] QString StatusOf(ReminderKind kind, const ReminderRule& rule);
 
 // How reminders are given. Empty if they are given in neither way.

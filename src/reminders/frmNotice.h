@@ -19,8 +19,9 @@ namespace Ui {
 class frmNotice;
 }
 
-// The settings of the reminders, each written as soon as it is changed. It cannot be
-// closed with a kind that is only half set, unless all kinds are switched off.
+// The settings of the reminders, each written as soon as it is changed, with the clips to
+// listen to. It cannot be closed with a kind that is only half set, or is on while no
+// method is chosen, unless all kinds are switched off.
 class frmNotice : public Form
 {
   Q_OBJECT

@@ -29,6 +29,7 @@ void CompactByCopy()
   // The file itself, should it stand elsewhere behind a link.
   const QString path = QFileInfo(DBEngine::DatabasePath()).canonicalFilePath();
   DBEngine::CompactDatabase(path, copy);
+  // A disk without permissions refuses them; the copy, whole and its owner's, is as good there.
   QFile::setPermissions(copy, QFile::permissions(path));
   Files::DeleteFile(path);
   Files::Name(copy, path);
