@@ -265,6 +265,28 @@ TEST_F(DatabaseCareFaults, AFailureAtAnyStepOfACompactionIsSaidAndLosesNothing)
   }
 }
 
+TEST_F(DatabaseCareFaults, ADeleteThatFailsLeavesTheCopyWhichMakesTheNextCompactionFail)
+{
+  const std::vector<Step> steps = Tampering::Watch(Compact, folder.Path()).steps;
+  const auto deletion = std::find_if(steps.begin(), steps.end(), [&](const Step& step) {
+    return step.call.startsWith("unlink") && step.line.contains(DatabasePath() + '"');
+  });
+  ASSERT_NE(deletion, steps.end());
+  LayAnew();
+  const Outcome outcome = Tampering::FailAt(*deletion, "EIO", false, Compact, folder.Path());
+  EXPECT_TRUE(WasTamperedWith(outcome));
+  EXPECT_EQ(outcome.said.last(), kSorry);
+  EXPECT_TRUE(Contents(DatabasePath()) == before);
+  EXPECT_TRUE(Dump(CopyPath()) == rows);
+  const QByteArray copy = Contents(CopyPath());
+  QStringList said;
+  Compact([&](const QString& line) { said.append(line); });
+  ASSERT_EQ(said.size(), 2);
+  EXPECT_EQ(said.last(), kSorry);
+  EXPECT_TRUE(Contents(DatabasePath()) == before);
+  EXPECT_TRUE(Contents(CopyPath()) == copy);
+}
+
 TEST_F(DatabaseCareFaults, ARenameToAnotherDiskIsDoneByACopy)
 {
   const std::vector<Step> steps = Tampering::Watch(Compact, folder.Path()).steps;

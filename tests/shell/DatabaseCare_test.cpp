@@ -276,10 +276,10 @@ TEST_F(DatabaseCompacting, EntriesAreDisabledWhileAPageForbidsThem)
   EXPECT_TRUE(enabled());
 }
 
-TEST_F(DatabaseCompacting, EntriesAreDisabledWhileAnEditorIsOpen)
+TEST_F(DatabaseCompacting, EntriesAreDisabledWhileAPageIsOpen)
 {
   Start();
-  for (const char* page : {"frmNew", "frmAnn"}) {
+  for (const char* page : {"frmNew", "frmAnn", "frmSpecial", "frmQuillmark", "frmCharts", "frmReminders"}) {
     frame->OpenPage(page);
     ASSERT_NE(Forms::Loaded(page), nullptr);
     EXPECT_FALSE(Menu("mnuCompact").isEnabled()) << page;

@@ -5,8 +5,10 @@
 
 #include "platform/Command.h"
 #include "platform/HelpViewer.h"
+#include "reminders/Clips.h"
 #include "support/ErrorOf.h"
 #include "support/HelpOnScreen.h"
+#include "support/SilentClip.h"
 
 #include <QPushButton>
 #include <QTextBrowser>
@@ -19,7 +21,24 @@ class HelpOfTheFrame : public ShellTest
 {
 protected:
   HelpOfTheFrame() { HelpOnScreen::Lay(folder.Path()); }
-  ~HelpOfTheFrame() override { HelpViewer::Quit(); }
+  ~HelpOfTheFrame() override
+  {
+    HelpViewer::Quit();
+    MediaDevice::Close();
+  }
+
+  // Starts with all that a close has to stop: the timer, the help and a clip.
+  void StartInFullSwing()
+  {
+    WriteSilentClips(folder, 60'000);
+    Start();
+    Menu("mnuContents").trigger();
+    MediaDevice::Open(Clips::FileFor(ReminderKind::kBirthday));
+    MediaDevice::Play();
+    frame->SetTimerEnabled(true);
+    ASSERT_NE(HelpOnScreen::Window(), nullptr);
+    ASSERT_EQ(MediaDevice::Mode(), "playing");
+  }
 };
 
 }
@@ -120,17 +139,38 @@ TEST_F(HelpOfTheFrame, AFrameWithoutHelpClosesAsEver)
   EXPECT_TRUE(frame->HasEnded());
 }
 
-// The close is stopped by the settings behind it; the help and the clip are gone by then.
-TEST_F(HelpOfTheFrame, TheHelpIsClosedBehindTheTimerAndBeforeTheSettingsAreWritten)
+// The close is stopped at the settings; the help and the clip are gone by then.
+TEST_F(HelpOfTheFrame, AnExitStopsTheTimerThenTheHelpThenTheClipAndThenWritesTheSettings)
 {
-  Start();
-  Menu("mnuContents").trigger();
-  frame->SetTimerEnabled(true);
+  StartInFullSwing();
+  bool timerAtTheHelpsEnd = true;
+  QString clipAtTheHelpsEnd;
+  QObject::connect(HelpOnScreen::Window(), &QObject::destroyed, [&] {
+    timerAtTheHelpsEnd = frame->TimerEnabled();
+    clipAtTheHelpsEnd = MediaDevice::Mode();
+  });
   folder.Execute("CREATE TRIGGER stop BEFORE UPDATE ON Options BEGIN SELECT RAISE(ABORT, 'stopped'); END");
   EXPECT_NE(ErrorOf([&] { Command::Run([&] { frame->Unload(); }); }), 0);
   EXPECT_EQ(HelpOnScreen::Window(), nullptr);
+  EXPECT_FALSE(timerAtTheHelpsEnd);
+  EXPECT_EQ(clipAtTheHelpsEnd, "playing");
   EXPECT_FALSE(frame->TimerEnabled());
+  EXPECT_EQ(MediaDevice::Mode(), QString());
   folder.Execute("DROP TRIGGER stop");
+}
+
+TEST_F(HelpOfTheFrame, AnExitWithoutADatabaseStopsNothing)
+{
+  StartInFullSwing();
+  ASSERT_TRUE(QFile::rename(folder.DatabasePath(), folder.File("/away.mdb")));
+  EXPECT_EQ(ErrorOf([&] { Command::Run([&] { frame->Unload(); }); }), 3024);
+  EXPECT_FALSE(frame->HasEnded());
+  EXPECT_TRUE(frame->TimerEnabled());
+  EXPECT_NE(HelpOnScreen::Window(), nullptr);
+  EXPECT_EQ(MediaDevice::Mode(), "playing");
+  ASSERT_TRUE(QFile::rename(folder.File("/away.mdb"), folder.DatabasePath()));
+  EXPECT_TRUE(frame->Unload());
+  EXPECT_EQ(MediaDevice::Mode(), QString());
 }
 
 TEST_F(HelpOfTheFrame, TheHelpCanBeReadWhileTheNoticesWaitForTheirUser)

@@ -5,6 +5,7 @@
 
 #include "controls/PictureBox.h"
 #include "looks/modToolTips.h"
+#include "shell/frmAbout.h"
 #include "support/AddressCatcher.h"
 
 namespace {
@@ -51,6 +52,27 @@ TEST_F(About, SaysWhatItIsAndWhereToWrite)
     EXPECT_FALSE(dynamic_cast<PictureBox&>(Drive::Control(dialog, "picLogo")).Picture().isNull());
     EXPECT_FALSE(dialog.windowIcon().isNull());
   });
+}
+
+TEST_F(About, TheAddressLooksLikeALinkAndTheMouseIsAHandOnIt)
+{
+  Start();
+  WhileOpen([](Form& dialog) {
+    EXPECT_TRUE(LabelOf(dialog, "lblOptions_1").FontUnderline());
+    EXPECT_EQ(LabelOf(dialog, "lblOptions_1").cursor().shape(), Qt::PointingHandCursor);
+    EXPECT_FALSE(LabelOf(dialog, "lblOptions_0").FontUnderline());
+    EXPECT_EQ(LabelOf(dialog, "lblOptions_0").cursor().shape(), Qt::ArrowCursor);
+    Drive::MoveOver(dialog, "lblOptions_1");
+    Drive::MoveOver(dialog);
+    EXPECT_TRUE(LabelOf(dialog, "lblOptions_1").FontUnderline()) << "lit or not";
+  });
+}
+
+TEST_F(About, BearsTheTipsOfItsDesignUntilItIsLoaded)
+{
+  frmAbout dialog;
+  EXPECT_EQ(Drive::Control(dialog, "lblOptions_0").toolTip().toStdString(), "Close window");
+  EXPECT_EQ(Drive::Control(dialog, "lblOptions_1").toolTip().toStdString(), "Click to send email");
 }
 
 TEST_F(About, IsModal)

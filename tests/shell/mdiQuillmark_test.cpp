@@ -7,6 +7,7 @@
 #include "platform/RuntimeError.h"
 #include "store/DBEngine.h"
 #include "support/ErrorOf.h"
+#include "support/SilentClip.h"
 
 #include <QMenu>
 #include <QMenuBar>
@@ -220,10 +221,10 @@ TEST_F(ShellTest, TheMenuIsCompleteWithItsCaptions)
 TEST_F(ShellTest, EveryEntryIsEnabledOnTheMainPage)
 {
   Start();
-  for (const char* name : {"mnuLists_0", "mnuLists_1", "mnuLists_2", "mnuAutostart", "mnuToolTips_0", "mnuToolTips_1",
-                           "mnuTheme_0", "mnuTheme_1", "mnuTheme_2", "mnuTheme_3", "mnuTheme_4", "mnuTheme_5",
-                           "mnuSetReminders", "mnuReminderCheck", "mnuPersonal", "mnuAnn", "mnuCompact", "mnuBackup",
-                           "mnuContents", "mnuAbout"}) {
+  for (const char* name : {"mnuLists_0",    "mnuLists_1", "mnuLists_2",      "mnuAutostart",     "mnuToolTips_0",
+                           "mnuToolTips_1", "mnuTheme_0", "mnuTheme_1",      "mnuTheme_2",       "mnuTheme_3",
+                           "mnuTheme_4",    "mnuTheme_5", "mnuSetReminders", "mnuReminderCheck", "mnuPersonal",
+                           "mnuAnn",        "mnuCompact", "mnuBackup",       "mnuContents",      "mnuAbout"}) {
     EXPECT_TRUE(Menu(name).isEnabled()) << name;
   }
 }
@@ -413,7 +414,7 @@ TEST_F(ShellTest, CalendarOfEventsOpensTheCalendarAndThenItsPrintDialog)
   EXPECT_TRUE(seen);
 }
 
-TEST_F(ShellTest, ALoadedNoticeAndAllPagesGoWithTheFrame)
+TEST_F(ShellTest, TheOpenPageAndTheMainPageGoWithTheFrame)
 {
   RegisterPage("frmNew");
   Start();
@@ -482,8 +483,10 @@ TEST_F(ShellTest, ClipsAloneLeaveTheFrameAsItIs)
 {
   folder.Execute("INSERT INTO People (FirstName, BirthMonth, BirthDate) VALUES ('Ann', 'May', '5')");
   Set("TextMessage=0, WindowState=1");
+  WriteSilentClips(folder, 60'000);
   modTextNotices::ClipIndex = 0;
   Start();
+  EXPECT_EQ(MediaDevice::Mode(), "playing");
   EXPECT_EQ(frame->State(), WindowState::kMaximised);
   EXPECT_TRUE(frame->TimerEnabled());
   frame->close();
