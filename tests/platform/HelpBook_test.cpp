@@ -3,7 +3,9 @@
 
 #include "platform/HelpBook.h"
 
+#include "support/EnvironmentVariable.h"
 #include "support/ProgramFolder.h"
+#include "support/WithoutRights.h"
 
 #include <QAbstractItemModel>
 #include <QDateTime>
@@ -15,7 +17,6 @@
 #include <algorithm>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
-#include <unistd.h>
 
 namespace {
 
@@ -31,44 +32,6 @@ QStringList Listing(const QString& folder)
   }
   return lines;
 }
-
-// Somebody without the rights to do everything.
-class Unprivileged
-{
-public:
-  Unprivileged() : user_(geteuid())
-  {
-    if (user_ == 0) {
-      EXPECT_EQ(seteuid(65534), 0);
-    }
-  }
-  ~Unprivileged() { EXPECT_EQ(seteuid(user_), 0); }
-  Unprivileged(const Unprivileged&) = delete;
-  Unprivileged& operator=(const Unprivileged&) = delete;
-
-private:
-  uid_t user_;
-};
-
-// Where temporary files go for as long as it stands.
-class TemporaryPlace
-{
-public:
-  explicit TemporaryPlace(const QString& path) : former_(qgetenv("TMPDIR")) { qputenv("TMPDIR", path.toUtf8()); }
-  ~TemporaryPlace()
-  {
-    if (former_.isEmpty()) {
-      qunsetenv("TMPDIR");
-    } else {
-      qputenv("TMPDIR", former_);
-    }
-  }
-  TemporaryPlace(const TemporaryPlace&) = delete;
-  TemporaryPlace& operator=(const TemporaryPlace&) = delete;
-
-private:
-  QByteArray former_;
-};
 
 class HelpBookTest : public testing::Test
 {
@@ -225,7 +188,8 @@ TEST_F(HelpBookTest, AFolderThatCannotBeWrittenWillDo)
   ASSERT_EQ(chmod(folder.path().toUtf8().constData(), 0555), 0);
   const QStringList before = Listing(folder.path());
   {
-    const Unprivileged reader;
+    const WithoutRights reader;
+    ASSERT_TRUE(reader.Done());
     EXPECT_FALSE(QFile(folder.filePath("proof")).open(QIODevice::WriteOnly)) << "the folder can be written";
     const auto book = HelpBook::Open(path);
     ASSERT_NE(book, nullptr);
@@ -252,7 +216,7 @@ TEST_F(HelpBookTest, NothingIsWrittenBesideTheFile)
 TEST_F(HelpBookTest, WhatTheToolkitWritesIsPrivateAndGoesWithTheBook)
 {
   const QTemporaryDir temporary;
-  const TemporaryPlace place(temporary.path());
+  const EnvironmentVariable place("TMPDIR", temporary.path().toUtf8());
   auto book = HelpBook::Open(path);
   ASSERT_NE(book, nullptr);
   const QFileInfoList made =
@@ -274,13 +238,13 @@ TEST_F(HelpBookTest, LinksOnTheWayDoNoHarm)
   ASSERT_TRUE(QDir().mkpath(elsewhere.filePath("deep")));
   ASSERT_TRUE(QFile::link(folder.path(), linked));
   ASSERT_TRUE(QFile::link(QDir::tempPath(), elsewhere.filePath("temporary")));
-  const TemporaryPlace place(elsewhere.filePath("temporary"));
+  const EnvironmentVariable place("TMPDIR", elsewhere.filePath("temporary").toUtf8());
   EXPECT_NE(HelpBook::Open(linked + "/Help.hlp"), nullptr);
 }
 
 TEST_F(HelpBookTest, WithoutATemporaryFolderNothingIsOpened)
 {
-  const TemporaryPlace place(path);  // no folder
+  const EnvironmentVariable place("TMPDIR", path.toUtf8());  // no folder
   EXPECT_EQ(HelpBook::Open(path), nullptr);
 }
 
