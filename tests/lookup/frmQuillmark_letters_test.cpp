@@ -1,0 +1,149 @@
+// SPDX-FileCopyrightText: 2026 The Quillmark authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "LookupTest.h"
+
+#include "lookup/Letters.h"
+#include "platform/Clock.h"
+#include "support/OwnDesktop.h"
+
+namespace {
+
+constexpr const char* kLetterButtons[] = {"lblOptions_6", "lblOptions_7", "lblOptions_8"};
+const QString kEmail = QStringLiteral("lblOptions_3");
+
+class LookupLetters : public LookupPageTest
+{
+protected:
+  LookupLetters()
+  {
+    Clock::StopOn(QDate(2026, 3, 5));
+    desktop_.LayEntry("editor.desktop", "editor %f");
+    desktop_.LayEntry("rich.desktop", "rich %f");
+    desktop_.LayEntry("writer.desktop", "soffice --writer %U");
+    desktop_.Choose("text/plain", "editor.desktop");
+    desktop_.Choose("application/rtf", "rich.desktop");
+    desktop_.Choose("application/vnd.oasis.opendocument.text", "writer.desktop");
+  }
+  ~LookupLetters() override { Clock::StopOn({}); }
+
+  void LayPrograms() const
+  {
+    for (const char* program : {"editor", "rich", "soffice"}) {
+      desktop_.LayProgram(program);
+    }
+  }
+
+  // What the program is handed after a click.
+  OwnDesktop::Start Letter(const QString& button)
+  {
+    Click(button);
+    return desktop_.AwaitStart(++starts_);
+  }
+
+  OwnDesktop desktop_;
+
+private:
+  std::size_t starts_ = 0;
+};
+
+TEST_F(LookupLetters, WithoutAPersonEachLetterAsksForOneAndTheMessageForAName)
+{
+  LayPrograms();
+  AddAnn();
+  Open();
+  for (const char* button : kLetterButtons) {
+    boxes.Expect("You must first select a person");
+    Click(button);
+  }
+  boxes.Expect("You must first select a name");
+  Click(kEmail);
+  EXPECT_TRUE(desktop_.Starts().empty());
+}
+
+TEST_F(LookupLetters, WithNobodyThereNothingIsSaidAndNobodySelected)
+{
+  LayPrograms();
+  Open();
+  for (const char* button : kLetterButtons) {
+    modID::SelectedPersonID = 7;
+    Click(button);
+    EXPECT_EQ(modID::SelectedPersonID, 0) << button;
+  }
+  modID::SelectedPersonID = 7;
+  Click(kEmail);
+  EXPECT_EQ(modID::SelectedPersonID, 0);
+  EXPECT_TRUE(desktop_.Starts().empty());
+}
+
+TEST_F(LookupLetters, AreOpenedInTheProgramOfTheirButton)
+{
+  LayPrograms();
+  AddAnn();
+  Open();
+  ClickLine(0);
+  EXPECT_EQ(Letter("lblOptions_6").program, "editor");
+  EXPECT_EQ(Letter("lblOptions_7").program, "soffice");
+  EXPECT_EQ(Letter("lblOptions_8").program, "rich");
+}
+
+TEST_F(LookupLetters, BeginWithTheDateAndTheSalutation)
+{
+  LayPrograms();
+  AddAnn();
+  Open();
+  ClickLine(0);
+  EXPECT_EQ(Letter("lblOptions_6").content.toStdString(), "March 05, 2026\n\n\nDear Ann:");
+}
+
+TEST_F(LookupLetters, CarryTheWholeAddressWhateverIsTicked)
+{
+  LayPrograms();
+  AddAnn();
+  Open();
+  ClickLine(0);
+  Click("lblOptions_2");
+  Tick("chkAddress");
+  EXPECT_EQ(Letter("lblOptions_6").content.toStdString(),
+            "March 05, 2026\n\n\nAnn Wood\n1 High Street\nFlat 2\nLeeds, Yorkshire\nEngland, LS1 1AA\n\nDear Ann:");
+}
+
+TEST_F(LookupLetters, WithoutAProgramSayWhichIsMissing)
+{
+  AddAnn();
+  Open();
+  ClickLine(0);
+  boxes.Expect("Sorry, Microsoft Notepad is either not on your system or cannot be opened.");
+  Click("lblOptions_6");
+  boxes.Expect("Sorry, Microsoft Word is either not on your system or cannot be opened.");
+  Click("lblOptions_7");
+  boxes.Expect("Error: Microsoft WordPad does not appear to be on your system.");
+  Click("lblOptions_8");
+}
+
+TEST_F(LookupLetters, WithoutAnAddressThereIsNoMessage)
+{
+  const int person = AddPerson("Bob", "Marsh");
+  Open();
+  ClickLine(0);
+  boxes.Expect("Sorry, there is no email address for this person in the database");
+  Click(kEmail);
+  Change(person, "Email", "");
+  ClickLine(0);
+  boxes.Expect("Sorry, there is no email address for this person in the database");
+  Click(kEmail);
+}
+
+TEST_F(LookupLetters, ALetterToSomebodyDeletedMeanwhileSaysThatItFails)
+{
+  LayPrograms();
+  const int person = AddAnn();
+  Open();
+  ClickLine(0);
+  Remove(person);
+  boxes.Expect("Sorry, Microsoft Notepad is either not on your system or cannot be opened.");
+  Click("lblOptions_6");
+  EXPECT_TRUE(desktop_.Starts().empty());
+}
+
+}
