@@ -11,6 +11,8 @@
 #include "controls/WrappedLines.h"
 #include "lookup/modPrinterMargins.h"
 
+#include <QTextBoundaryFinder>
+
 #include <algorithm>
 
 namespace CalendarPrinting {
@@ -20,7 +22,11 @@ constexpr double kTitleSize = 40;
 constexpr double kDaySize = 12;
 constexpr double kEventSize = 10;
 constexpr double kSmallestSize = 5;
+constexpr double kSizeStep = 0.5;
+constexpr double kAscent = 0.8;  // of the height of a line
+constexpr int kMostLetters = 200;
 constexpr int kInset = 100;
+constexpr int kGap = 40;
 constexpr int kFirstEvent = 350;
 constexpr int kEventPitch = 200;
 constexpr int kDetailsPitch = 180;
@@ -47,14 +53,42 @@ void PrintAt(int left, int top, const QString& text)
   Printer::Print(text);
 }
 
-// A text that is too wide is set smaller, so that it stays in its cell.
-void PrintWithin(int left, int top, int width, const QString& text)
+QString OnOneLine(QString text)
 {
-  double size = kEventSize;
-  for (; size > kSmallestSize && Printer::TextWidth(text) > width; size -= 1) {
-    Printer::SetFontSize(size - 1);
+  std::replace_if(
+      text.begin(), text.end(), [](QChar letter) { return letter.isSpace(); }, QLatin1Char(' '));
+  return text;
+}
+
+// Without the letters at its end that have no room.
+QString Shortened(const QString& text, int width)
+{
+  const QString start = text.left(kMostLetters);
+  QTextBoundaryFinder letters(QTextBoundaryFinder::Grapheme, start);
+  letters.toEnd();
+  QString shortened = start;
+  while (Printer::TextWidth(shortened) > width && letters.toPreviousBoundary() > 0) {
+    shortened = start.left(letters.position()) + QStringLiteral("...");
   }
-  PrintAt(left, top, text);
+  return shortened;
+}
+
+// A text that is too wide is set smaller on the same base line, so that it stays in its cell, and
+// is cut off where even that is too wide.
+void PrintWithin(int left, int top, int width, const QString& event)
+{
+  QString text = OnOneLine(event);
+  while (text.endsWith(QLatin1Char(' '))) {
+    text.chop(1);
+  }
+  const double height = Printer::TextHeight(text);
+  double size = kEventSize;
+  while (size > kSmallestSize && Printer::TextWidth(text) > width) {
+    size -= kSizeStep;
+    Printer::SetFontSize(size);
+  }
+  const double lower = kAscent * (height - Printer::TextHeight(text));
+  PrintAt(left, top + qRound(lower), Shortened(text, width));
   Printer::SetFontSize(kEventSize);
 }
 
@@ -87,7 +121,7 @@ void DrawGrid(const PageGeometry& page)
 
 void PrintEvents(const PrintedMonth::Cell& cell, Format format, int left, int top)
 {
-  const int width = GeometryOf(format).columnWidth - 2 * kInset;
+  const int width = GeometryOf(format).columnWidth - kInset - kGap;
   Printer::SetForeColor(Qt::black);
   int line = top + kFirstEvent;
   for (const QString& event : PrintedCell::Lines(cell.events)) {
@@ -117,12 +151,39 @@ void PrintHeads(const PageGeometry& page)
   Printer::SetFontBold(false);
 }
 
+double WidestOf(const QStringList& lines)
+{
+  double widest = 0;
+  for (const QString& line : lines) {
+    widest = std::max(widest, Printer::TextWidth(line));
+  }
+  return widest;
+}
+
+QStringList Wrapped(const QString& notes, const QFont& font, int width)
+{
+  QStringList lines = WrappedLines(notes, font, width);
+  std::transform(lines.begin(), lines.end(), lines.begin(), OnOneLine);
+  return lines;
+}
+
+// The letters of the page may be narrower than those of the paper.
+QStringList LinesOnPaper(const QString& notes, const PrintedMonth& month, const PageGeometry& page)
+{
+  const int room = static_cast<int>(Printer::ScaleWidth()) - page.columns[3];
+  int width = std::min({month.detailsWidth, page.detailsWidth, room});
+  QStringList lines = Wrapped(notes, month.detailsFont, width);
+  for (double widest = WidestOf(lines); widest > room && width > kGap; widest = WidestOf(lines)) {
+    width = static_cast<int>(width * room / widest) - 1;
+    lines = Wrapped(notes, month.detailsFont, width);
+  }
+  return lines;
+}
+
 void PrintDetails(const QString& notes, const PrintedMonth& month, const PageGeometry& page)
 {
-  const int onPaper = static_cast<int>(Printer::ScaleWidth()) - page.columns[3];
-  const int width = std::min({month.detailsWidth, page.detailsWidth, onPaper});
   bool first = true;
-  for (const QString& line : WrappedLines(notes, month.detailsFont, width)) {
+  for (const QString& line : LinesOnPaper(notes, month, page)) {
     if (!first) {
       modPrinterMargins::ListTop += kDetailsPitch;
       Printer::SetCurrentY(modPrinterMargins::ListTop);
@@ -140,7 +201,7 @@ void PrintListEvent(const CalendarEvent& event, const PrintedMonth::Cell& cell, 
   modPrinterMargins::PrinterMargins();
   const int top = modPrinterMargins::ListTop;
   PrintAt(page.columns[0], top, cell.day);
-  PrintAt(page.columns[1], top, event.title);
+  PrintWithin(page.columns[1], top, page.columns[2] - page.columns[1] - kGap, event.title);
   PrintAt(page.columns[2], top, EventTexts::ShortTime(event.time));
   if (!event.notes.isEmpty()) {
     PrintDetails(event.notes, month, page);
