@@ -174,7 +174,7 @@ QStringList LinesOnPaper(const QString& notes, const PrintedMonth& month, const 
   int width = std::min({month.detailsWidth, page.detailsWidth, room});
   QStringList lines = Wrapped(notes, month.detailsFont, width);
   for (double widest = WidestOf(lines); widest > room && width > kGap; widest = WidestOf(lines)) {
-    width = static_cast<int>(width * room / widest) - 1;
+    width = static_cast<int>(width * room / widest) - kGap;
     lines = Wrapped(notes, month.detailsFont, width);
   }
   return lines;

@@ -495,6 +495,32 @@ TEST_P(CalendarPrintingTest, PrintsTextsInAnyScript)
   EXPECT_NE(pages.Word("Юлия").page, 0);
 }
 
+TEST_P(CalendarPrintingTest, IsMadeSmallerBetweenWideMargins)
+{
+  constexpr double kWide = 2 * 1440;
+  const PrintedMonth month = BusyMonth();
+  QFile::remove(path);
+  PrintDialogScript dialogs;
+  dialogs.ExpectPdf(path, std::get<1>(GetParam()),
+                    [](QPrintDialog& dialog) { PrintDialogScript::ChooseMargins(dialog, 2 * 25.4); });
+  ShowPrinter();
+  CalendarPrinting::PrintGrid(month, TheFormat());
+  Database database = DBEngine::OpenDatabase();
+  CalendarPrinting::PrintList(month, TheFormat(), database);
+  Printer::EndDoc();
+  const PrintedPages pages(path, kWide);
+  for (const PrintedWord& word : pages.Words()) {
+    EXPECT_GE(word.x, 0) << word.text.toStdString();
+    EXPECT_LE(word.right, pages.Size(word.page).width() - 2 * kWide) << word.text.toStdString();
+    EXPECT_LE(word.y, pages.Size(word.page).height() - 2 * kWide) << word.text.toStdString();
+  }
+  const double scale = pages.Word("Monday").x / Page().weekdays[1];
+  EXPECT_LT(scale, 1);
+  EXPECT_NEAR(pages.Word("31").x, scale * (Left(1) + 100), kNear);
+  EXPECT_NEAR(pages.Word("31").y, scale * (Top(5) + 50), kNear);
+  EXPECT_EQ(pages.Word("Details").page, Page().listPage);
+}
+
 TEST_P(CalendarPrintingTest, HangsTidilyOnTheKitchenDoorWithABusyMonth)
 {
   const PrintedPages pages = GridAndList(BusyMonth());
