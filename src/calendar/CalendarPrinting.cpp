@@ -200,7 +200,7 @@ void PrintListEvent(const CalendarEvent& event, const PrintedMonth::Cell& cell, 
   SetFont(kEventSize);
   modPrinterMargins::PrinterMargins();
   const int top = modPrinterMargins::ListTop;
-  PrintAt(page.columns[0], top, cell.day);
+  PrintAt(modPrinterMargins::kLeftMargin, top, cell.day);
   PrintWithin(page.columns[1], top, page.columns[2] - page.columns[1] - kGap, event.title);
   PrintAt(page.columns[2], top, EventTexts::ShortTime(event.time));
   if (!event.notes.isEmpty()) {

@@ -52,6 +52,7 @@ void ColourControl(QWidget& control, const QColor& colour)
   }
   QPalette palette = control.palette();
   palette.setColor(QPalette::Window, colour);
+  palette.setColor(control.backgroundRole(), colour);
   control.setPalette(palette);
   control.setAutoFillBackground(true);
 }

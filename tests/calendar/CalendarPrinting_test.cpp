@@ -3,6 +3,7 @@
 
 #include "calendar/CalendarPrinting.h"
 
+#include "lookup/modPrinterMargins.h"
 #include "platform/PrintDialog.h"
 #include "platform/Printer.h"
 #include "store/DBEngine.h"
@@ -131,7 +132,8 @@ protected:
   static std::string InList(const PrintedPages& pages, int page, std::size_t column, double y)
   {
     const auto& columns = Page().columns;
-    return LineAt(pages, page, columns.at(column), y, column == 3 ? 1e6 : columns.at(column + 1));
+    const int left = column == 0 ? modPrinterMargins::kLeftMargin : columns.at(column);
+    return LineAt(pages, page, left, y, column == 3 ? 1e6 : columns.at(column + 1));
   }
   static std::vector<PrintedWord> WordsAt(const PrintedPages& pages, double x)
   {
