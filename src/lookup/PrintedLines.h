@@ -12,6 +12,8 @@ namespace PrintedLines {
 // The font of all but headings.
 void SetBodyFont();
 
+// A caption, tabs, and a text, which goes on below in its column where it is too wide for the
+// paper. Breaks in the line begin rows at the left of the printable area.
 void Print(const QString& line);
 
 // In its own font, with an empty line above unless it is the first line of a page.

@@ -21,6 +21,18 @@ protected:
     }
     return notes.join("\r\n");
   }
+
+  // Where the line at that height of the first page begins.
+  static double LeftOf(const PrintedPages& pages, double y)
+  {
+    double left = pages.Size(1).width();
+    for (const PrintedWord& word : pages.Words()) {
+      if (std::abs(word.y - y) < kLineHeight / 2) {
+        left = std::min(left, word.x);
+      }
+    }
+    return left;
+  }
 };
 
 struct ItemLine
@@ -257,4 +269,55 @@ TEST_F(RecordPrinting, PrintsTextsInAnyScript)
   EXPECT_EQ(pages.Lines(1).value(1), QStringLiteral("Home phone: Ελλάδα & sons"));
   EXPECT_EQ(pages.Count(), 1);
   EXPECT_GT(pages.Word("end").x, kColumn);
+}
+
+TEST_F(RecordPrinting, GoesOnBelowWithWhatIsTooWideForThePaper)
+{
+  const QString street = "Flat 27, The Old Brewery Building, 1283 Saint Bartholomew's Crescent North East";
+  AddPerson("Maximiliana Josephina Bernadette Constantia", "Featherstonehaugh Cholmondeley Marjoribanks",
+            {{"Email", QString(90, 'm')}, {"Street", street}, {"City", "Leeds"}, {"Country", "England"}});
+  Open();
+  Tick("chkInfo_1");
+  Tick("chkInfo_2");
+  Click("lblOptions_1");
+  ClickName(0);
+  Tick("optPrint_0");
+  for (QPageSize::PageSizeId paper : {QPageSize::A4, QPageSize::Letter}) {
+    const PrintedPages pages = Print(paper);
+    ExpectWithinMargins(pages);
+    QString text = pages.Lines(1).join(QString());
+    QString expected =
+        "Maximiliana Josephina Bernadette Constantia Featherstonehaugh Cholmondeley Marjoribanks Email:" +
+        QString(90, 'm') + "Address:" + street + "Leeds England";
+    EXPECT_EQ(text.remove(' ').toStdString(), expected.remove(' ').toStdString());
+    const double email = kTop + 2 * kHeadingHeight;
+    EXPECT_NEAR(LeftOf(pages, kTop + kHeadingHeight), kLeft, kNear);
+    EXPECT_NEAR(LeftOf(pages, email), kLeft, kNear);
+    EXPECT_NEAR(LeftOf(pages, email + kLineHeight), kColumn, kNear);
+    EXPECT_NEAR(LeftOf(pages, email + 2 * kLineHeight), kColumn, kNear);
+    EXPECT_NEAR(LeftOf(pages, email + 3 * kLineHeight), kLeft, kNear);
+    EXPECT_NEAR(LeftOf(pages, email + 4 * kLineHeight), kColumn, kNear);
+    ExpectAt(pages, "Leeds", kColumn, email + 5 * kLineHeight);
+  }
+}
+
+// With no place for an address of four lines, its last one stands on the next page.
+TEST_F(RecordPrinting, LeavesNoLineOfAnAddressBelowThePaper)
+{
+  AddPerson("Anna", "Wood", {{"Notes", Notes(42)}});
+  AddPerson("Bess", "Wood", {{"Notes", "one"}});
+  AddPerson("Cora", "Wood",
+            {{"Street", "1High"}, {"SecondAddress", "Flat"}, {"City", "Leeds"}, {"Country", "England"}});
+  Open();
+  Tick("chkInfo_2");
+  Tick("chkNotes");
+  Click("lblOptions_1");
+  const PrintedPages pages = PrintAll();
+  ASSERT_EQ(pages.Count(), 2);
+  const double first = kTop + 5 * kHeadingHeight + 45 * kLineHeight;
+  EXPECT_NEAR(pages.Word("1High").y, first, 4 * kNear);
+  EXPECT_NEAR(pages.Word("Leeds").y, first + 2 * kLineHeight, 4 * kNear);
+  EXPECT_EQ(pages.Word("Leeds").page, 1);
+  ExpectAt(pages, "England", kColumn, kTop, 2);
+  EXPECT_EQ(pages.Lines(2), QStringList({"England", "Notes: unavailable"}));
 }

@@ -5,6 +5,9 @@
 
 #include "platform/Months.h"
 
+#include <algorithm>
+#include <cmath>
+
 namespace {
 
 class OccasionPrinting : public OccasionPrintingTest
@@ -268,6 +271,31 @@ TEST_F(OccasionPrinting, ChangesNothingOnThePage)
   EXPECT_EQ(SelectedMonths(), std::vector<int>{kMay});
   EXPECT_TRUE(IsShown("fraPrint"));
   EXPECT_TRUE(IsTicked(kAllMonths) && IsTicked("chkAgeAnn") && IsTicked("chkDate"));
+}
+
+TEST_P(OccasionPrintingOnPaper, GoesOnBelowWithANameTooLongForThePaper)
+{
+  const QString name = "Maximiliane Josefin Friederike Oberhuber Schwarzenbeck von der Tannen";
+  AddPerson("Ann", "September", "1");
+  AddPerson(name, "September", "27", "1936");
+  OpenOn(8);
+  Tick("chkAgeAnn");
+  const PrintedPages pages = PrintWith(kSelectedMonth, GetParam());
+  const QString text = pages.Lines(1).join(' ');
+  EXPECT_EQ(text.toStdString(), "September Birthdays: September 1 - Ann Wood September 27, 1936 - " +
+                                    name.toStdString() +
+                                    " Wood, 89 years old Anniversaries: No anniversaries this month");
+  EXPECT_EQ(pages.Lines(1).size(), 5);
+  for (const PrintedWord& word : pages.Words()) {
+    EXPECT_LE(word.right, pages.Size(1).width() - 2 * PrintedPages::kMargin + kNear) << word.text.toStdString();
+  }
+  double below = pages.Size(1).width();
+  for (const PrintedWord& word : pages.Words()) {
+    if (std::abs(word.y - (kTop + kHeadingHeight + 2 * kLineHeight)) < kLineHeight / 2) {
+      below = std::min(below, word.x);
+    }
+  }
+  EXPECT_NEAR(below, kLaterColumn, kNear);
 }
 
 TEST_P(OccasionPrintingOnPaper, BreaksPagesBetweenTheMarginsAndLosesNothing)
