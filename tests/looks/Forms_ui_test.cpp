@@ -28,6 +28,7 @@ constexpr int kCommandInset = 8;
 const std::set<QString> kMayStandOutside = {
     QStringLiteral("frmTextNotice.lblExplain"),
     QStringLiteral("frmTextNotice.lstMoreInfo"),
+    QStringLiteral("frmReminders.shpHLine_5"),
 };
 
 // The longest texts that are set while the program runs.
