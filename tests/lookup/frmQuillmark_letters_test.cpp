@@ -15,17 +15,23 @@ const QString kEmail = QStringLiteral("lblOptions_3");
 class LookupLetters : public LookupPageTest
 {
 protected:
+  // The folders of the user are the test's own already, and not those of the toolkit's tests.
   LookupLetters()
   {
+    QStandardPaths::setTestModeEnabled(false);
     Clock::StopOn(QDate(2026, 3, 5));
     desktop_.LayEntry("editor.desktop", "editor %f");
     desktop_.LayEntry("rich.desktop", "rich %f");
     desktop_.LayEntry("writer.desktop", "soffice --writer %U");
-    desktop_.Choose("text/plain", "editor.desktop");
-    desktop_.Choose("application/rtf", "rich.desktop");
-    desktop_.Choose("application/vnd.oasis.opendocument.text", "writer.desktop");
+    desktop_.Lay("config/mimeapps.list",
+                 "[Default Applications]\ntext/plain=editor.desktop\napplication/rtf=rich.desktop\n"
+                 "application/vnd.oasis.opendocument.text=writer.desktop\n");
   }
-  ~LookupLetters() override { Clock::StopOn({}); }
+  ~LookupLetters() override
+  {
+    Clock::StopOn({});
+    QStandardPaths::setTestModeEnabled(true);
+  }
 
   void LayPrograms() const
   {

@@ -25,8 +25,8 @@ const QMap<QString, QStringList> kMayInclude = {
     {"occasions", {"platform", "store", "controls", "looks", "charts", "people", "lookup"}},
     {"calendar", {"platform", "store", "controls", "looks", "lookup"}},
     {"shell",
-     {"platform", "store", "controls", "looks", "reminders", "charts", "people", "anniversaries", "lookup",
-      "occasions", "calendar"}},
+     {"platform", "store", "controls", "looks", "reminders", "charts", "people", "anniversaries", "lookup", "occasions",
+      "calendar"}},
 };
 
 QStringList SourceFiles(const QStringList& patterns)
