@@ -293,13 +293,9 @@ void frmQuillmark::lblOptions_Click(int index)
       OpenPanel(*ui_->fraLetter);
       break;
     case kNotepad:
-      Correspondence::WriteLetter(names_, LetterProgram::kNotepad, ui_->chkAddress->isChecked());
-      break;
     case kWord:
-      Correspondence::WriteLetter(names_, LetterProgram::kWord, ui_->chkAddress->isChecked());
-      break;
     case kWordPad:
-      Correspondence::WriteLetter(names_, LetterProgram::kWordPad, ui_->chkAddress->isChecked());
+      WriteLetter(index);
       break;
     case kExitLetter:
       CloseLetter();
@@ -332,6 +328,13 @@ void frmQuillmark::ClosePrint()
   Choices::Clear({ui_->optPrint_0, ui_->optPrint_1});
   ui_->fraPrint->hide();
   ui_->chkDate->setChecked(false);
+}
+
+void frmQuillmark::WriteLetter(int index)
+{
+  constexpr std::array kPrograms = {LetterProgram::kNotepad, LetterProgram::kWord, LetterProgram::kWordPad};
+  Correspondence::WriteLetter(names_, kPrograms.at(static_cast<std::size_t>(index - kNotepad)),
+                              ui_->chkAddress->isChecked());
 }
 
 void frmQuillmark::CloseLetter()

@@ -69,6 +69,7 @@ private:
   // The commands.
   void OpenPanel(QWidget& panel);
   void ClosePrint();
+  void WriteLetter(int index);
   void CloseLetter();
   void Clip();
   void Leave(const char* page);
