@@ -10,7 +10,7 @@
 // Option buttons of which one or none is chosen.
 namespace Choices {
 
-// Chooses none.
+// Chooses none; the toolkit keeps one of an exclusive group chosen.
 inline void Clear(std::initializer_list<QAbstractButton*> options)
 {
   for (QAbstractButton* option : options) {

@@ -3,6 +3,7 @@
 
 #include "reminders/NoticePanel.h"
 
+#include "controls/Choices.h"
 #include "controls/ComboBox.h"
 #include "controls/Label.h"
 #include "store/Recordset.h"
@@ -166,12 +167,7 @@ bool NoticePanel::IsChosen(DayRule rule) const
   return options_[IndexOf(rule)].isChecked();
 }
 
-// The toolkit keeps one of an exclusive group chosen.
 void NoticePanel::DeselectOptions()
 {
-  for (const auto& [index, option] : options_.All()) {
-    option->setAutoExclusive(false);
-    option->setChecked(false);
-    option->setAutoExclusive(true);
-  }
+  Choices::Clear({&options_[IndexOf(DayRule::kOneDay)], &options_[IndexOf(DayRule::kManyDays)]});
 }
