@@ -77,6 +77,15 @@ void PersonResults::ShowNotes(Recordset& person)
   ShowOrHide(notes, person, "Notes");
 }
 
+void PersonResults::ForgetContact()
+{
+  block = {};
+  for (ResultBox* box : {&phone, &mobile, &business, &email, &address}) {
+    box->Show(QString());
+    box->Hide();
+  }
+}
+
 void PersonResults::HideAll()
 {
   for (ResultBox* box : All()) {

@@ -41,5 +41,8 @@ struct PersonResults
   bool ShowSpecial(Recordset& person);
   void ShowNotes(Recordset& person);
 
+  // Empties and hides the contact boxes, so that nothing of another person stays in them.
+  void ForgetContact();
+
   void HideAll();
 };

@@ -242,6 +242,7 @@ void frmQuillmark::FindContact()
     return;
   }
   if (!Attempt([this] { results_.ShowContact(names_.Person()); })) {
+    results_.ForgetContact();
     MsgBox(QStringLiteral("Unexpected error... please try again"));
   }
 }
