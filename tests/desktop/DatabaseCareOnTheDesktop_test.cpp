@@ -42,13 +42,14 @@ protected:
                        .arg(today.day()));
   }
 
-  // A dialog that has the keyboard.
+  // A dialog that has the keyboard. What the window manager holds for the active window may
+  // be long gone, and its number another window's.
   [[nodiscard]] std::optional<QString> AwaitDialog() const
   {
     QString window;
     const bool came = QTest::qWaitFor(
         [&] {
-          window = desktop.Run("xdotool", {"getactivewindow"});
+          window = desktop.Run("xdotool", {"getwindowfocus"});
           return !window.isEmpty() && desktop.Property(window, "_NET_WM_WINDOW_TYPE").contains("TYPE_DIALOG");
         },
         kPatience);
