@@ -4,26 +4,12 @@
 #pragma once
 
 #include "Household.h"
-#include "StandInFrame.h"
 
 #include "anniversaries/frmAnn.h"
-#include "controls/ComboBox.h"
 #include "controls/Image.h"
-#include "controls/ListBox.h"
-#include "controls/modID.h"
-#include "looks/Style.h"
 #include "people/frmNew.h"
-#include "platform/Application.h"
-#include "platform/Attempt.h"
-#include "platform/Clock.h"
-#include "platform/Command.h"
-#include "support/Drive.h"
 #include "support/FileDialogScript.h"
-#include "support/MessageBoxScript.h"
-
-#include <QAbstractItemView>
-#include <QLabel>
-#include <QStandardPaths>
+#include "support/PageTest.h"
 
 // The commands of the page by their place in lblOptions.
 namespace AnnCommand {
@@ -45,36 +31,15 @@ inline const QString kNoImage = QStringLiteral("Sorry, that is not a valid image
 
 // The real couple editor in a frame of its own, over a database of the test's own, on
 // 5 May 2026.
-class AnniversariesTest : public testing::Test, protected Household
+class AnniversariesTest : public PageTest<frmAnn>, protected Household
 {
 protected:
   AnniversariesTest()
+      : PageTest({"frmIntro", "frmSpecial", "frmCharts", "frmQuillmark", "frmReminders"}), Household(folder)
   {
-    QStandardPaths::setTestModeEnabled(true);
-    Style::Apply(*qApp);
-    Application::SetEnding([](int) { ADD_FAILURE() << "the program has ended"; });
-    Forms::Register("frmAnn", [] { return new frmAnn; });
     Forms::Register("frmNew", [] { return new frmNew; });
-    for (const char* name : {"frmIntro", "frmSpecial", "frmCharts", "frmQuillmark", "frmReminders"}) {
-      Forms::Register(name, [=] { return new EmptyPage(name); });
-    }
     Clock::StopOn(QDate(2026, 5, 5));
-    modID::SelectedPersonID = modID::CoupleSpouse1ID = modID::CoupleSpouse2ID = 0;
   }
-
-  ~AnniversariesTest() override
-  {
-    for (Form* form : Forms::AllLoaded()) {
-      Attempt([form] { form->Unload(); });
-    }
-    DropUnloaded();
-    Forms::UnregisterAll();
-    Application::SetEnding({});
-    Clock::StopOn({});
-    modID::SelectedPersonID = modID::CoupleSpouse1ID = modID::CoupleSpouse2ID = 0;
-  }
-
-  static void DropUnloaded() { QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); }
 
   // --- The page.
 
@@ -82,44 +47,16 @@ protected:
   {
     modID::CoupleSpouse1ID = wife;
     modID::CoupleSpouse2ID = husband;
-    OpenPage("frmAnn");
-  }
-  void OpenPage(const QString& name)
-  {
-    Command::Run([&] { Forms::Load(name).Show(); });
-    DropUnloaded();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&frame.window));
-  }
-  static void Leave()
-  {
-    Command::Run([] { Forms::Unload("frmAnn"); });
-    DropUnloaded();
+    PageTest::Open();
   }
 
-  static bool IsOpen(const char* name) { return Forms::Loaded(name) != nullptr; }
-  static Form& Page(const char* name = "frmAnn") { return *Forms::Loaded(name); }
-  static QWidget& Control(const QString& name) { return Drive::Control(Page(), name); }
   static ListBox& List(const QString& name) { return dynamic_cast<ListBox&>(Control(name)); }
   static ComboBox& Combo(const QString& name) { return dynamic_cast<ComboBox&>(Control(name)); }
   static Image& Picture() { return dynamic_cast<Image&>(Control("imgPerson")); }
 
-  template <typename Box>
-  static QStringList LinesOf(const Box& box)
-  {
-    QStringList lines;
-    for (int i = 0; i < box.ListCount(); ++i) {
-      lines.append(box.List(i));
-    }
-    return lines;
-  }
-  static QStringList Lines(const QString& list) { return LinesOf(List(list)); }
+  static QStringList Lines(const QString& list) { return Hands::LinesOf(List(list)); }
 
   static std::string Chosen(const QString& list) { return List(list).Text().toStdString(); }
-  static std::string Caption(const QString& label)
-  {
-    return dynamic_cast<QLabel&>(Control(label)).text().toStdString();
-  }
-  static bool IsShown(const QString& name) { return Control(name).isVisibleTo(&Page()); }
   static bool IsDone() { return IsShown("lblDone1"); }
   static std::string ShownDay()
   {
@@ -143,7 +80,7 @@ protected:
 
   // --- What the page shows of a picture.
 
-  static std::string ShownColour() { return Middle(Picture().Picture().toImage()); }
+  static std::string ShownColour() { return Hands::MiddleColour(Picture().Picture().toImage()); }
   static void ExpectPicture(const QColor& colour)
   {
     EXPECT_EQ(ShownColour(), colour.name().toStdString());
@@ -159,18 +96,10 @@ protected:
 
   // --- Hands on the page.
 
-  static void Click(const QString& name) { Drive::Click(Page(), name); }
   static void Update() { Click(AnnCommand::kUpdate); }
   static void Delete() { Click(AnnCommand::kDelete); }
 
-  static void ClickLine(const QString& list, int line)
-  {
-    ListBox& box = List(list);
-    const QModelIndex index = box.model()->index(line, 0);
-    ASSERT_TRUE(index.isValid()) << list.toStdString() << " " << line;
-    box.scrollTo(index);
-    QTest::mouseClick(box.viewport(), Qt::LeftButton, {}, box.visualRect(index).center());
-  }
+  static void ClickLine(const QString& list, int line) { Hands::ClickLine(List(list), line); }
   static void ClickLine(const QString& list, const QString& text)
   {
     const qsizetype line = Lines(list).indexOf(text);
@@ -178,10 +107,6 @@ protected:
     ClickLine(list, static_cast<int>(line));
   }
 
-  static void Press(const QString& name, Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
-  {
-    QTest::keyClick(&Control(name), key, modifiers);
-  }
   static void Erase(const QString& combo)
   {
     Press(combo, Qt::Key_A, Qt::ControlModifier);
@@ -193,21 +118,8 @@ protected:
     if (line.isEmpty()) {
       Erase(combo);
     } else {
-      PickLine(Combo(combo), line);
+      Hands::PickLine(Combo(combo), line);
     }
-  }
-  static void PickLine(ComboBox& box, const QString& line)
-  {
-    const qsizetype row = LinesOf(box).indexOf(line);
-    ASSERT_GE(row, 0) << line.toStdString();
-    box.showPopup();
-    QAbstractItemView& view = *box.view();
-    ASSERT_TRUE(QTest::qWaitForWindowExposed(view.window()));
-    const QModelIndex index = view.model()->index(static_cast<int>(row), 0);
-    view.scrollTo(index);
-    QTest::mouseMove(view.viewport(), view.visualRect(index).center());
-    QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, view.visualRect(index).center());
-    ASSERT_TRUE(QTest::qWaitFor([&] { return !view.isVisible(); }));
   }
   static void PickDay(const Day& day)
   {
@@ -230,7 +142,5 @@ protected:
     EXPECT_FALSE(IsDone());
   }
 
-  MessageBoxScript boxes;
   FileDialogScript dialogs;
-  StandInFrame frame;
 };

@@ -3,11 +3,10 @@
 
 #pragma once
 
+#include "support/Hands.h"
 #include "support/ProgramFolder.h"
 
-#include <QColor>
 #include <QDir>
-#include <QImage>
 
 #include <gtest/gtest.h>
 
@@ -30,12 +29,12 @@ inline const Day kMarch = {QStringLiteral("March"), QStringLiteral("3"), QString
 class Household
 {
 public:
-  Household() { QDir(folder.Path()).mkdir("AnnPics"); }
+  explicit Household(const ProgramFolder& folder) : folder_(folder) {}
 
   int AddPerson(const QString& first, const QString& last, const QVariant& gender) const
   {
-    folder.Execute("INSERT INTO People (FirstName, LastName, Gender) VALUES (?,?,?)", {first, last, gender});
-    return folder.Value("SELECT max(PeopleID) FROM People").toInt();
+    folder_.Execute("INSERT INTO People (FirstName, LastName, Gender) VALUES (?,?,?)", {first, last, gender});
+    return folder_.Value("SELECT max(PeopleID) FROM People").toInt();
   }
   int AddWoman(const QString& first, const QString& last = "Wood") const { return AddPerson(first, last, "Female"); }
   int AddMan(const QString& first, const QString& last = "Marsh") const { return AddPerson(first, last, "Male"); }
@@ -43,13 +42,13 @@ public:
   // Marries two people, with the date in all three places. Returns the couple's key.
   int Marry(int wife, int husband, const Day& day = kJune) const
   {
-    folder.Execute(
+    folder_.Execute(
         "INSERT INTO Ann (Spouse1ID, Spouse1First, Spouse1Last, Spouse2ID, Spouse2First, Spouse2Last) SELECT "
         "w.PeopleID, w.FirstName, w.LastName, h.PeopleID, h.FirstName, h.LastName FROM People w, People h WHERE "
         "w.PeopleID = ? AND h.PeopleID = ?",
         {wife, husband});
-    const int couple = folder.Value("SELECT max(AnnID) FROM Ann").toInt();
-    folder.Execute(Dated("Ann", "AnnID"), Values(day) << couple);
+    const int couple = folder_.Value("SELECT max(AnnID) FROM Ann").toInt();
+    folder_.Execute(Dated("Ann", "AnnID"), Values(day) << couple);
     SetWedding(wife, day);
     SetWedding(husband, day);
     return couple;
@@ -58,7 +57,7 @@ public:
   // The copy of the date in the person's own row.
   void SetWedding(int person, const Day& day) const
   {
-    folder.Execute(Dated("People", "PeopleID"), Values(day) << person);
+    folder_.Execute(Dated("People", "PeopleID"), Values(day) << person);
   }
   [[nodiscard]] std::string WeddingOf(int person) const
   {
@@ -76,7 +75,7 @@ public:
   [[nodiscard]] std::vector<std::string> Dump(const QString& sql) const
   {
     std::vector<std::string> lines;
-    for (const QVariantList& row : folder.Rows(sql)) {
+    for (const QVariantList& row : folder_.Rows(sql)) {
       QStringList texts;
       for (const QVariant& value : row) {
         texts.append(value.isNull() ? "-" : value.toString());
@@ -87,7 +86,7 @@ public:
   }
   [[nodiscard]] std::vector<std::string> People() const { return Dump("SELECT * FROM People ORDER BY PeopleID"); }
   [[nodiscard]] std::vector<std::string> Couples() const { return Dump("SELECT * FROM Ann ORDER BY AnnID"); }
-  [[nodiscard]] int CoupleCount() const { return folder.Value("SELECT count(*) FROM Ann").toInt(); }
+  [[nodiscard]] int CoupleCount() const { return folder_.Value("SELECT count(*) FROM Ann").toInt(); }
 
   // Everybody's own row holds the date of their couple, or none.
   void ExpectCopiesAgree() const
@@ -101,30 +100,17 @@ public:
 
   [[nodiscard]] QString PictureFile(int couple) const
   {
-    return folder.File(QStringLiteral("/AnnPics/%1.bmp").arg(couple));
-  }
-  static void SavePicture(const QString& path, QSize size = {40, 20}, const QColor& colour = Qt::red)
-  {
-    QImage image(size, QImage::Format_RGB32);
-    image.fill(colour);
-    ASSERT_TRUE(image.save(path)) << path.toStdString();
+    return folder_.File(QStringLiteral("/AnnPics/%1.bmp").arg(couple));
   }
   void GivePicture(int couple, const QColor& colour = Qt::red) const
   {
-    SavePicture(PictureFile(couple), {40, 20}, colour);
+    Hands::SavePicture(PictureFile(couple), colour);
   }
   [[nodiscard]] QStringList PictureFiles() const
   {
-    return QDir(folder.File("/AnnPics")).entryList(QDir::AllEntries | QDir::NoDotAndDotDot, QDir::Name);
+    return QDir(folder_.File("/AnnPics")).entryList(QDir::AllEntries | QDir::NoDotAndDotDot, QDir::Name);
   }
-  [[nodiscard]] std::string StoredColour(int couple) const { return Middle(QImage(PictureFile(couple))); }
-  static std::string Middle(const QImage& image)
-  {
-    return image.isNull() ? std::string()
-                          : image.pixelColor(image.width() / 2, image.height() / 2).name().toStdString();
-  }
-
-  ProgramFolder folder;
+  [[nodiscard]] std::string StoredColour(int couple) const { return Hands::MiddleColour(QImage(PictureFile(couple))); }
 
 private:
   static QVariant OrNull(const QString& text) { return text.isEmpty() ? QVariant() : QVariant(text); }
@@ -138,4 +124,6 @@ private:
     const std::vector<std::string> lines = Dump(sql);
     return lines.empty() ? "no row" : lines.front();
   }
+
+  const ProgramFolder& folder_;
 };

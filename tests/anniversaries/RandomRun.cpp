@@ -167,7 +167,8 @@ void RandomRun::AddSomebody()
   Record::Type("txtFirst", person.first);
   Record::Type("txtLast", person.last);
   Record::Type("txtNotes", person.notes);
-  PickLine(dynamic_cast<ComboBox&>(Drive::Control(Record::Page(), "cboSex")), person.isWoman ? "Female" : "Male");
+  Hands::PickLine(dynamic_cast<ComboBox&>(Drive::Control(Record::Page(), "cboSex")),
+                  person.isWoman ? "Female" : "Male");
   if (OneIn(8)) {
     Took("cancel an addition");
     Record::Click(Record::kCancelAdd);

@@ -57,7 +57,7 @@ protected:
   void ChoosePicture()
   {
     const QString path = folder.File("/mine.png");
-    SavePicture(path, {40, 20}, Qt::blue);
+    Hands::SavePicture(path, Qt::blue);
     dialogs.ExpectChoice(path);
     Click("cmdAddPic");
   }

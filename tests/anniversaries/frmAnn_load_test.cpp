@@ -77,10 +77,11 @@ protected:
 TEST_F(CoupleEditorLoad, FillsTheBoxesOfTheDate)
 {
   Open();
-  EXPECT_EQ(LinesOf(Combo("cboAnnMonth")), QStringList({"January", "February", "March", "April", "May", "June", "July",
-                                                        "August", "September", "October", "November", "December"}));
-  EXPECT_EQ(LinesOf(Combo("cboAnnDate")), Numbers(1, 31));
-  EXPECT_EQ(LinesOf(Combo("cboAnnYear")), Numbers(1900, 2050));
+  EXPECT_EQ(Hands::LinesOf(Combo("cboAnnMonth")),
+            QStringList({"January", "February", "March", "April", "May", "June", "July", "August", "September",
+                         "October", "November", "December"}));
+  EXPECT_EQ(Hands::LinesOf(Combo("cboAnnDate")), Numbers(1, 31));
+  EXPECT_EQ(Hands::LinesOf(Combo("cboAnnYear")), Numbers(1900, 2050));
   EXPECT_EQ(ShownDay(), kNoDay.Text());
 }
 
@@ -91,7 +92,7 @@ TEST_F(CoupleEditorLoad, TakesTheMonthsFromTheFile)
   file.write("Hornung\nLenzing");
   file.close();
   Open();
-  EXPECT_EQ(LinesOf(Combo("cboAnnMonth")), QStringList({"Hornung", "Lenzing"}));
+  EXPECT_EQ(Hands::LinesOf(Combo("cboAnnMonth")), QStringList({"Hornung", "Lenzing"}));
 }
 
 TEST_F(CoupleEditorLoad, ListsWomenAndMenApart)

@@ -35,7 +35,7 @@ protected:
   [[nodiscard]] QString Source(const QString& name, QSize size = {40, 20}, const QColor& colour = kGreen) const
   {
     const QString path = folder.File("/" + name);
-    SavePicture(path, size, colour);
+    Hands::SavePicture(path, colour, size);
     return path;
   }
   [[nodiscard]] QString NoPicture() const
@@ -396,7 +396,7 @@ TEST_F(CouplePictures, WithAFileInPlaceOfTheFolderTheCoupleIsStoredAllTheSame)
 {
   AddHousehold();
   ASSERT_TRUE(QDir(folder.Path()).rmdir("AnnPics"));
-  SavePicture(folder.File("/AnnPics.bmp"));
+  Hands::SavePicture(folder.File("/AnnPics.bmp"));
   ASSERT_TRUE(QFile::rename(folder.File("/AnnPics.bmp"), folder.File("/AnnPics")));
   OpenForTheCouple();
   Add(Source("mine.png"));

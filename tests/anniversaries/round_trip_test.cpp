@@ -28,7 +28,7 @@ protected:
     ClickLine(kMen, husband);
     PickDay(day);
     const QString path = folder.File("/mine.png");
-    SavePicture(path);
+    Hands::SavePicture(path);
     dialogs.ExpectChoice(path);
     Click("cmdAddPic");
     Update();
@@ -66,7 +66,7 @@ TEST_F(RoundTrip, TheRecordEditorShowsTheDateOfTheCouple)
 TEST_F(RoundTrip, CancellingTheDeletionOfAPartnerLeavesEverythingInPlace)
 {
   MakeCouples();
-  Household::SavePicture(folder.File(QString("/PeoplePics/%1.bmp").arg(cleo)));
+  Hands::SavePicture(folder.File(QString("/PeoplePics/%1.bmp").arg(cleo)));
   OpenRecord(cleo);
   const auto people = People();
   const auto couples = Couples();
@@ -113,8 +113,8 @@ TEST_F(RoundTrip, DeletingAPartnerRemovesThePicturesOfPersonAndCouple)
   MakeCouples();
   const QString picture = folder.File(QString("/PeoplePics/%1.bmp").arg(cleo));
   const QString other = folder.File(QString("/PeoplePics/%1.bmp").arg(dan));
-  Household::SavePicture(picture);
-  Household::SavePicture(other);
+  Hands::SavePicture(picture);
+  Hands::SavePicture(other);
   OpenRecord(cleo);
   DeleteRecord(QMessageBox::Ok);
   EXPECT_FALSE(QFile::exists(picture));

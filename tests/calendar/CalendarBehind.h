@@ -4,22 +4,21 @@
 #pragma once
 
 #include "calendar/frmReminders.h"
-#include "controls/Forms.h"
-#include "controls/Frame.h"
 #include "platform/Clock.h"
 #include "platform/Command.h"
 #include "support/Drive.h"
+#include "support/WindowedFrame.h"
 
 #include <gtest/gtest.h>
 
 // The calendar page that the event editor stands over, in a plain window.
-class CalendarBehind : private Frame
+class CalendarBehind
 {
 public:
   CalendarBehind()
   {
     Forms::Register("frmReminders", [] { return new frmReminders; });
-    Forms::Register("frmIntro", [] { return new EmptyPage; });
+    Forms::Register("frmIntro", [] { return new EmptyPage("frmIntro"); });
   }
 
   // Opens the page on the month of the date.
@@ -27,35 +26,13 @@ public:
   {
     Clock::StopOn(date);
     Command::Run([] { Forms::Load("frmReminders").Show(); });
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&window_));
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&frame_.window));
   }
 
   static bool IsOpen() { return Forms::Loaded("frmReminders") != nullptr; }
   static Form& Page() { return *Forms::Loaded("frmReminders"); }
-  [[nodiscard]] QWidget& Window() { return window_; }
+  [[nodiscard]] QWidget& Window() { return frame_.window; }
 
 private:
-  class EmptyPage : public Form
-  {
-  public:
-    EmptyPage() : Form("frmIntro", Kind::kPage) {}
-  };
-
-  [[nodiscard]] WindowState State() const override { return WindowState::kNormal; }
-  void SetState(WindowState /*state*/) override {}
-  bool Unload() override { return true; }
-  void PlacePage(Form& page) override
-  {
-    page.setParent(&window_);
-    window_.resize(page.size());
-    page.show();
-    window_.show();
-    window_.activateWindow();
-  }
-  void OpenPage(const QString& name) override { Forms::Load(name).Show(); }
-  void AllowDatabaseCare(bool /*allowed*/) override {}
-  [[nodiscard]] bool TimerEnabled() const override { return false; }
-  void SetTimerEnabled(bool /*enabled*/) override {}
-
-  QWidget window_;
+  WindowedFrame frame_;
 };

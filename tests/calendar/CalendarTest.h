@@ -14,6 +14,7 @@
 #include "looks/modToolTips.h"
 #include "platform/Application.h"
 #include "platform/Attempt.h"
+#include "support/Hands.h"
 #include "support/MessageBoxScript.h"
 #include "support/ProgramFolder.h"
 
@@ -151,14 +152,7 @@ protected:
     const QWidget* widget = Page().focusWidget();
     return widget == nullptr ? std::string() : widget->objectName().toStdString();
   }
-  static std::string LinesOf(const ListBox& list)
-  {
-    QStringList lines;
-    for (int i = 0; i < list.ListCount(); ++i) {
-      lines.append(list.List(i));
-    }
-    return lines.join('|').toStdString();
-  }
+  static std::string LinesOf(const ListBox& list) { return Hands::LinesOf(list).join('|').toStdString(); }
   static std::string LinesOf(const QString& list) { return LinesOf(List(list)); }
 
   // The list of the day on the calendar; its lines, or "hidden".
@@ -207,26 +201,8 @@ protected:
     QApplication::clipboard()->setText(text);
     Press(name, Qt::Key_V, Qt::ControlModifier);
   }
-  static void ClickLine(const QString& list, int line)
-  {
-    ListBox& box = List(list);
-    const QModelIndex index = box.model()->index(line, 0);
-    ASSERT_TRUE(index.isValid()) << list.toStdString() << " " << line;
-    box.scrollTo(index);
-    QTest::mouseClick(box.viewport(), Qt::LeftButton, {}, box.visualRect(index).center());
-  }
-  static void PickPreset(int line)
-  {
-    ComboBox& box = Presets();
-    box.showPopup();
-    QAbstractItemView& view = *box.view();
-    ASSERT_TRUE(QTest::qWaitForWindowExposed(view.window()));
-    const QModelIndex index = view.model()->index(line, 0);
-    view.scrollTo(index);
-    QTest::mouseMove(view.viewport(), view.visualRect(index).center());
-    QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, view.visualRect(index).center());
-    ASSERT_TRUE(QTest::qWaitFor([&] { return !view.isVisible(); }));
-  }
+  static void ClickLine(const QString& list, int line) { Hands::ClickLine(List(list), line); }
+  static void PickPreset(int line) { Hands::PickLine(Presets(), line); }
 
   static void FillAdd(const QString& event, const QString& time = {}, const QString& notes = {})
   {

@@ -5,27 +5,15 @@
 
 #include "calendar/frmReminders.h"
 #include "calendar/modCalVariables.h"
-#include "controls/Forms.h"
-#include "controls/Frame.h"
 #include "controls/MultiLineTextBox.h"
 #include "controls/PictureBox.h"
 #include "controls/Shape.h"
-#include "looks/Style.h"
 #include "looks/modResize.h"
 #include "looks/modThemes.h"
-#include "looks/modToolTips.h"
-#include "platform/Application.h"
-#include "platform/Attempt.h"
-#include "platform/Clock.h"
-#include "platform/Command.h"
-#include "support/Drive.h"
-#include "support/MessageBoxScript.h"
-#include "support/ProgramFolder.h"
+#include "support/PageTest.h"
 
 #include <QCursor>
-#include <QDir>
 #include <QScreen>
-#include <QStandardPaths>
 
 #include <gtest/gtest.h>
 
@@ -49,37 +37,9 @@ private:
   std::function<void()> atLoad_;
 };
 
-// A frame with a plain window for the pages, which remembers what it is told.
-class FrameOfCalendar : public Frame
-{
-public:
-  [[nodiscard]] WindowState State() const override { return state; }
-  void SetState(WindowState newState) override { state = newState; }
-  bool Unload() override { return true; }
-  void PlacePage(Form& page) override
-  {
-    placed.append(page.Name());
-    page.setParent(&window);
-    window.resize(page.size());
-    page.move(0, 0);
-    page.show();
-    window.show();
-    window.activateWindow();
-  }
-  void OpenPage(const QString& name) override { Forms::Load(name).Show(); }
-  void AllowDatabaseCare(bool allowed) override { care.push_back(allowed); }
-  [[nodiscard]] bool TimerEnabled() const override { return false; }
-  void SetTimerEnabled(bool /*enabled*/) override {}
-
-  QWidget window;
-  WindowState state = WindowState::kNormal;
-  QStringList placed;
-  std::vector<bool> care;
-};
-
 // The real wall calendar in a frame of its own, over a database of the test's own, on
 // 12 May 2026. May 2026 takes the cells 5 to 35; 12 May is cell 16.
-class RemindersTest : public testing::Test
+class RemindersTest : public PageTest<frmReminders>
 {
 protected:
   static constexpr int kCellCount = 37;
@@ -88,32 +48,13 @@ protected:
 
   RemindersTest()
   {
-    QStandardPaths::setTestModeEnabled(true);
-    Style::Apply(*qApp);
-    Application::SetEnding([](int) { ADD_FAILURE() << "the program has ended"; });
-    Forms::Register("frmReminders", [] { return new frmReminders; });
-    RegisterBeside("frmIntro", Form::Kind::kPage);
     RegisterBeside("frmCalEdit", Form::Kind::kWindow);
-    QDir(folder.Path()).mkdir("themes");
     Clock::StopOn(QDate(2026, 5, 12));
     ForgetShared();
     QCursor::setPos(QGuiApplication::primaryScreen()->geometry().bottomRight());
   }
 
-  ~RemindersTest() override
-  {
-    for (Form* form : Forms::AllLoaded()) {
-      Attempt([form] { form->Unload(); });
-    }
-    DropUnloaded();
-    Forms::UnregisterAll();
-    Application::SetEnding({});
-    Clock::StopOn({});
-    modToolTips::SetTipsOff(false);
-    ForgetShared();
-  }
-
-  static void DropUnloaded() { QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); }
+  ~RemindersTest() override { ForgetShared(); }
 
   static void RegisterBeside(const QString& name, Form::Kind kind, const std::function<void()>& atLoad = {})
   {
@@ -158,8 +99,7 @@ protected:
   void Open()
   {
     modThemes::SetCalendarHasPicture(false);
-    Command::Run([] { Forms::Load("frmReminders").Show(); });
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&frame.window));
+    PageTest::Open();
   }
   void OpenOn(QDate today)
   {
@@ -167,35 +107,20 @@ protected:
     Open();
   }
 
-  static bool IsOpen(const char* name = "frmReminders") { return Forms::Loaded(name) != nullptr; }
-  static Form& Page() { return *Forms::Loaded("frmReminders"); }
-  static QWidget& Control(const QString& name) { return Drive::Control(Page(), name); }
   static QString Element(const char* array, int index) { return QStringLiteral("%1_%2").arg(array).arg(index); }
   static Label& Day(int cell) { return dynamic_cast<Label&>(Control(Element("lblDay", cell))); }
   static ListBox& Cell(int cell) { return dynamic_cast<ListBox&>(Control(Element("lstReminders", cell))); }
   static ListBox& List(const QString& name) { return dynamic_cast<ListBox&>(Control(name)); }
-  static bool IsShown(const QString& name) { return Control(name).isVisibleTo(&Page()); }
+  using PageTest::IsShown;
   static bool IsShown(const QWidget& control) { return control.isVisibleTo(&Page()); }
   static bool DetailsShown() { return IsShown("txtNotesDisplay"); }
 
-  static std::string Caption(const QString& label)
-  {
-    return dynamic_cast<QLabel&>(Control(label)).text().toStdString();
-  }
   static std::string Details()
   {
     return dynamic_cast<MultiLineTextBox&>(Control("txtNotesDisplay")).Text().toStdString();
   }
-  static QStringList LinesOf(const ListBox& box)
-  {
-    QStringList lines;
-    for (int i = 0; i < box.ListCount(); ++i) {
-      lines.append(box.List(i));
-    }
-    return lines;
-  }
   // The lines of a cell, with a bar between them.
-  static std::string Lines(int cell) { return LinesOf(Cell(cell)).join('|').toStdString(); }
+  static std::string Lines(int cell) { return Hands::LinesOf(Cell(cell)).join('|').toStdString(); }
 
   // The cells whose list shows, with their lines.
   static std::map<int, std::string> ShownEvents()
@@ -284,26 +209,18 @@ protected:
 
   // --- Hands on the page.
 
-  static void Click(const QString& name) { Drive::Click(Page(), name); }
   static void Next() { Click("lblOptions_0"); }
   static void Previous() { Click("lblOptions_1"); }
-  static void ClickLine(ListBox& box, int line)
-  {
-    const QModelIndex index = box.model()->index(line, 0);
-    ASSERT_TRUE(index.isValid()) << box.objectName().toStdString() << " " << line;
-    box.scrollTo(index);
-    QTest::mouseClick(box.viewport(), Qt::LeftButton, {}, box.visualRect(index).center());
-  }
-  static void ClickEvent(int cell, int line = 0) { ClickLine(Cell(cell), line); }
+  static void ClickEvent(int cell, int line = 0) { Hands::ClickLine(Cell(cell), line); }
   static void ChooseMonth(int month)
   {
     Click("lblMonth");
-    ClickLine(List("lstMonth"), month - 1);
+    Hands::ClickLine(List("lstMonth"), month - 1);
   }
   static void ChooseYear(int year)
   {
     Click("lblYear");
-    ClickLine(List("lstYear"), year - 1900);
+    Hands::ClickLine(List("lstYear"), year - 1900);
   }
   static void ClickPicture() { QTest::mouseClick(&Control("picReminders"), Qt::LeftButton, {}, QPoint(40, 20)); }
   static QWidget& DetailsViewport() { return *dynamic_cast<MultiLineTextBox&>(Control("txtNotesDisplay")).viewport(); }
@@ -322,8 +239,4 @@ protected:
     work();
     EXPECT_TRUE(*seen) << name.toStdString();
   }
-
-  ProgramFolder folder;
-  MessageBoxScript boxes;
-  FrameOfCalendar frame;
 };

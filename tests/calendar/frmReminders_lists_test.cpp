@@ -102,11 +102,11 @@ TEST_F(RemindersLists, AMonthChosenLeavesTheYearsOpen)
   Open();
   Click("lblYear");
   Click("lblMonth");
-  ClickLine(List("lstMonth"), 8);
+  Hands::ClickLine(List("lstMonth"), 8);
   ExpectMonth(2026, 9);
   EXPECT_FALSE(MonthsShown());
   EXPECT_TRUE(YearsShown());
-  ClickLine(List("lstYear"), 99);
+  Hands::ClickLine(List("lstYear"), 99);
   ExpectMonth(1999, 9);
   EXPECT_FALSE(YearsShown());
 }
@@ -116,7 +116,7 @@ TEST_F(RemindersLists, AYearChosenLeavesTheMonthsOpen)
   Open();
   Click("lblMonth");
   Click("lblYear");
-  ClickLine(List("lstYear"), 100);
+  Hands::ClickLine(List("lstYear"), 100);
   ExpectMonth(2000, 5);
   EXPECT_FALSE(YearsShown());
   EXPECT_TRUE(MonthsShown());

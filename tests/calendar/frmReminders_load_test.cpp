@@ -165,14 +165,15 @@ TEST_F(RemindersLoad, ATodayBeyondTheYearListHasNoYearToSelect)
 TEST_F(RemindersLoad, TheListsHoldTheMonthsAndTheYears)
 {
   Open();
-  EXPECT_EQ(LinesOf(List("lstMonth")), (QStringList{"January", "February", "March", "April", "May", "June", "July",
-                                                    "August", "September", "October", "November", "December"}));
+  EXPECT_EQ(Hands::LinesOf(List("lstMonth")),
+            (QStringList{"January", "February", "March", "April", "May", "June", "July", "August", "September",
+                         "October", "November", "December"}));
   QStringList years;
   for (int year = 1900; year <= 2050; ++year) {
     years.append(QString::number(year));
   }
   EXPECT_EQ(years.size(), 151);
-  EXPECT_EQ(LinesOf(List("lstYear")), years);
+  EXPECT_EQ(Hands::LinesOf(List("lstYear")), years);
   EXPECT_EQ(List("lstMonth").ListIndex(), 4);
   EXPECT_EQ(List("lstYear").ListIndex(), 126);
 }
@@ -192,12 +193,11 @@ TEST_F(RemindersLoad, EachLoadBeginsAtTodaysMonth)
 TEST_F(RemindersLoad, TheDatabaseCannotBeCompactedOrBackedUpMeanwhile)
 {
   Open();
-  ASSERT_FALSE(frame.care.empty());
-  EXPECT_FALSE(frame.care.back());
+  EXPECT_FALSE(frame.careAllowed);
   Next();
-  EXPECT_FALSE(frame.care.back());
+  EXPECT_FALSE(frame.careAllowed);
   Forms::Unload("frmReminders");
-  EXPECT_TRUE(frame.care.back());
+  EXPECT_TRUE(frame.careAllowed);
 }
 
 TEST_F(RemindersLoad, MainLeavesForTheMainPage)
@@ -208,7 +208,7 @@ TEST_F(RemindersLoad, MainLeavesForTheMainPage)
   EXPECT_FALSE(IsOpen());
   ASSERT_TRUE(IsOpen("frmIntro"));
   EXPECT_EQ(frame.placed, (QStringList{"frmReminders", "frmIntro"}));
-  EXPECT_TRUE(frame.care.back());
+  EXPECT_TRUE(frame.careAllowed);
 }
 
 TEST_F(RemindersLoad, PrintShowsItsFormOverThePageWithTheThemeFlagSet)

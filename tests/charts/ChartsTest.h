@@ -3,7 +3,6 @@
 
 #pragma once
 
-#include "anniversaries/StandInFrame.h"
 #include "charts/BarChart.h"
 #include "charts/ChartControl.h"
 #include "charts/ChartRowsModel.h"
@@ -11,15 +10,7 @@
 #include "charts/DataControl.h"
 #include "charts/frmCharts.h"
 #include "controls/Label.h"
-#include "looks/Style.h"
-#include "looks/modToolTips.h"
-#include "platform/Application.h"
-#include "platform/Attempt.h"
-#include "platform/Clock.h"
-#include "platform/Command.h"
-#include "support/Drive.h"
-#include "support/MessageBoxScript.h"
-#include "support/ProgramFolder.h"
+#include "support/PageTest.h"
 
 #include <QBarCategoryAxis>
 #include <QBarSeries>
@@ -70,37 +61,15 @@ inline constexpr int kProvince = 4;
 
 // The real chart page in a frame of its own, over a database of the test's own, on
 // 5 May 2026.
-class ChartsTest : public testing::Test
+class ChartsTest : public PageTest<frmCharts>
 {
 protected:
   ChartsTest()
   {
-    Style::Apply(*qApp);
     Application::SetEnding([this](int) { ++endings; });
-    Forms::Register("frmCharts", [] { return new frmCharts; });
-    Forms::Register("frmIntro", [] { return new EmptyPage("frmIntro"); });
     Clock::StopOn(QDate(2026, 5, 5));
-    modToolTips::SetTipsOff(false);
   }
 
-  ~ChartsTest() override
-  {
-    for (Form* form : Forms::AllLoaded()) {
-      Attempt([form] { form->Unload(); });
-    }
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    Forms::UnregisterAll();
-    Application::SetEnding({});
-    Clock::StopOn({});
-    modToolTips::SetTipsOff(false);
-  }
-
-  void Open()
-  {
-    Command::Run([] { Forms::Load("frmCharts").Show(); });
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&frame.window));
-  }
-  static Form& Page() { return *Forms::Loaded("frmCharts"); }
   static ChartControl& Chart() { return static_cast<ChartControl&>(Drive::Control(Page(), "mscChart")); }
   static QRadioButton& Choice(int index)
   {
@@ -111,14 +80,9 @@ protected:
     return static_cast<QRadioButton&>(Drive::Control(Page(), QStringLiteral("optOptions_%1").arg(index)));
   }
 
-  // A click on the button itself, at its left.
-  static void ClickButton(QRadioButton& button)
-  {
-    QTest::mouseClick(&button, Qt::LeftButton, {}, QPoint(8, button.height() / 2));
-  }
-  static void Choose(int subject) { ClickButton(Choice(subject)); }
-  static void ChooseBars() { ClickButton(Kind(0)); }
-  static void ChooseCircles() { ClickButton(Kind(1)); }
+  static void Choose(int subject) { Hands::Tick(Choice(subject)); }
+  static void ChooseBars() { Hands::Tick(Kind(0)); }
+  static void ChooseCircles() { Hands::Tick(Kind(1)); }
 
   static std::string Bars() { return InSeries::Bars(Chart().Bars()); }
   static std::string Slices() { return InSeries::Slices(Chart().Circles()); }
@@ -140,8 +104,5 @@ protected:
         {count});
   }
 
-  ProgramFolder folder;
-  MessageBoxScript boxes;
-  StandInFrame frame;
   int endings = 0;
 };

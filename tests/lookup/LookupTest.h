@@ -4,70 +4,18 @@
 #pragma once
 
 #include "controls/EntryBox.h"
-#include "controls/Form.h"
-#include "controls/Forms.h"
-#include "controls/Frame.h"
 #include "controls/Image.h"
 #include "controls/Label.h"
-#include "controls/ListBox.h"
 #include "controls/PictureBox.h"
 #include "controls/Shape.h"
-#include "controls/modID.h"
-#include "looks/Style.h"
-#include "looks/modToolTips.h"
 #include "lookup/frmQuillmark.h"
 #include "people/modImages.h"
-#include "platform/Application.h"
-#include "platform/Attempt.h"
-#include "platform/Command.h"
 #include "store/StoreError.h"
-#include "support/Drive.h"
-#include "support/MessageBoxScript.h"
-#include "support/ProgramFolder.h"
+#include "support/PageTest.h"
 
-#include <QAbstractButton>
-#include <QApplication>
 #include <QClipboard>
-#include <QDir>
-#include <QImage>
-#include <QStandardPaths>
-
-#include <gtest/gtest.h>
 
 #include <array>
-
-// A page that only stands there.
-class PageOutside : public Form
-{
-public:
-  explicit PageOutside(const QString& name) : Form(name, Kind::kPage) {}
-};
-
-// A frame with a plain window for the pages, which remembers what it is told.
-class LookupFrame : public Frame
-{
-public:
-  [[nodiscard]] WindowState State() const override { return state; }
-  void SetState(WindowState newState) override { state = newState; }
-  bool Unload() override { return true; }
-  void PlacePage(Form& page) override
-  {
-    page.setParent(&window);
-    window.resize(page.size());
-    page.move(0, 0);
-    page.show();
-    window.show();
-    window.activateWindow();
-  }
-  void OpenPage(const QString& name) override { Forms::Load(name).Show(); }
-  void AllowDatabaseCare(bool allowed) override { careAllowed = allowed; }
-  [[nodiscard]] bool TimerEnabled() const override { return false; }
-  void SetTimerEnabled(bool /*enabled*/) override {}
-
-  QWidget window;
-  WindowState state = WindowState::kNormal;
-  bool careAllowed = true;
-};
 
 // One of the eight things that the page can show of a person.
 struct LookupItem
@@ -97,36 +45,10 @@ inline const QString kMain = QStringLiteral("lblOptions_0");
 inline const QString kCopy = QStringLiteral("lblOptions_4");
 
 // The real look-up page in a frame of its own, over a database of the test's own.
-class LookupPageTest : public testing::Test
+class LookupPageTest : public PageTest<frmQuillmark>
 {
 protected:
-  LookupPageTest()
-  {
-    QStandardPaths::setTestModeEnabled(true);
-    Style::Apply(*qApp);
-    Application::SetEnding([](int) { ADD_FAILURE() << "the program has ended"; });
-    Forms::Register("frmQuillmark", [] { return new frmQuillmark; });
-    for (const char* name : {"frmIntro", "frmNew", "frmAnn"}) {
-      Forms::Register(name, [=] { return new PageOutside(name); });
-    }
-    QDir(folder.Path()).mkdir("PeoplePics");
-    QDir(folder.Path()).mkdir("themes");
-    modID::SelectedPersonID = modID::CoupleSpouse1ID = modID::CoupleSpouse2ID = 0;
-  }
-
-  ~LookupPageTest() override
-  {
-    for (Form* form : Forms::AllLoaded()) {
-      Attempt([form] { form->Unload(); });
-    }
-    DropUnloaded();
-    Forms::UnregisterAll();
-    Application::SetEnding({});
-    modToolTips::SetTipsOff(false);
-    modID::SelectedPersonID = modID::CoupleSpouse1ID = modID::CoupleSpouse2ID = 0;
-  }
-
-  static void DropUnloaded() { QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); }
+  LookupPageTest() : PageTest({"frmIntro", "frmNew", "frmAnn"}) {}
 
   // --- The database, seen from outside. Names may be Null. Returns the key.
 
@@ -171,43 +93,19 @@ protected:
 
   // --- The page.
 
-  void Open()
-  {
-    Command::Run([] { Forms::Load("frmQuillmark").Show(); });
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&frame.window));
-  }
-  static void Leave()
-  {
-    Command::Run([] { Forms::Unload("frmQuillmark"); });
-    DropUnloaded();
-  }
-
-  static bool IsOpen(const char* name = "frmQuillmark") { return Forms::Loaded(name) != nullptr; }
-  static Form& Page() { return *Forms::Loaded("frmQuillmark"); }
-  static QWidget& Control(const QString& name) { return Drive::Control(Page(), name); }
   static ListBox& Names() { return dynamic_cast<ListBox&>(Control("lstNames")); }
   static QAbstractButton& Button(const QString& name) { return dynamic_cast<QAbstractButton&>(Control(name)); }
   static Label& LabelOf(const QString& name) { return dynamic_cast<Label&>(Control(name)); }
   static Image& Picture() { return dynamic_cast<Image&>(Control("imgPerson")); }
   static PictureBox& ThemePicture() { return dynamic_cast<PictureBox&>(Control("picThemes")); }
-  static bool IsShown(const QString& name) { return Control(name).isVisibleTo(&Page()); }
   static int Marked(const QString& shape) { return dynamic_cast<Shape&>(Control(shape)).FillStyle(); }
-  static bool IsTicked(const QString& check) { return Button(check).isChecked(); }
 
   // The lines of the list, with a bar between them.
-  static std::string Lines()
-  {
-    QStringList lines;
-    for (int i = 0; i < Names().ListCount(); ++i) {
-      lines.append(Names().List(i));
-    }
-    return lines.join('|').toStdString();
-  }
+  static std::string Lines() { return Hands::LinesOf(Names()).join('|').toStdString(); }
   // What stands in a box, shown or not.
   static std::string TextOf(const QString& box) { return dynamic_cast<EntryBox&>(Control(box)).Text().toStdString(); }
   // What a box shows; "-" while it is hidden.
   static std::string Shown(const QString& box) { return IsShown(box) ? TextOf(box) : "-"; }
-  static std::string Caption(const QString& label) { return LabelOf(label).text().toStdString(); }
   // As it is painted, where "&&" is one "&".
   static std::string ButtonCaption(const QString& button)
   {
@@ -251,30 +149,13 @@ protected:
 
   // --- Hands on the page.
 
-  static void Click(const QString& name) { Drive::Click(Page(), name); }
-  // Clicks on a check box or an option button, near its mark.
-  static void Tick(const QString& name)
-  {
-    QWidget& button = Control(name);
-    QTest::mouseClick(&button, Qt::LeftButton, {}, QPoint(8, button.height() / 2));
-  }
   static void TickAll(std::initializer_list<const char*> names)
   {
     for (const char* name : names) {
       Tick(name);
     }
   }
-  static void ClickLine(int line)
-  {
-    const QModelIndex index = Names().model()->index(line, 0);
-    ASSERT_TRUE(index.isValid()) << line;
-    Names().scrollTo(index);
-    QTest::mouseClick(Names().viewport(), Qt::LeftButton, {}, Names().visualRect(index).center());
-  }
-  static void Press(const QString& name, Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
-  {
-    QTest::keyClick(&Control(name), key, modifiers);
-  }
+  static void ClickLine(int line) { Hands::ClickLine(Names(), line); }
 
   // Visible, and above everything else on the page.
   static void ExpectOnTop(const QString& panel)
@@ -304,7 +185,7 @@ protected:
     boxes.Expect(message);
     work();
     EXPECT_EQ(endings, 1);
-    Application::SetEnding([](int) { ADD_FAILURE() << "the program has ended"; });
+    ExpectNoEnding();
   }
 
   // --- Pictures.
@@ -313,25 +194,14 @@ protected:
   {
     return folder.File(QStringLiteral("/PeoplePics/%1.bmp").arg(person));
   }
-  static void SavePicture(const QString& path, const QColor& colour = Qt::red, QSize size = {40, 20})
-  {
-    QImage image(size, QImage::Format_RGB32);
-    image.fill(colour);
-    ASSERT_TRUE(image.save(path)) << path.toStdString();
-  }
   // The garden theme, with its picture for this page.
   void UseGarden() const
   {
     folder.Execute("UPDATE Options SET Theme=1");
-    SavePicture(folder.File("/themes/irisw4.jpg"), Qt::green, {24, 30});
+    Hands::SavePicture(folder.File("/themes/irisw4.jpg"), Qt::green, {24, 30});
   }
   // The colour in the middle of the picture on show; empty without one.
-  static std::string ShownColour()
-  {
-    const QImage image = Picture().Picture().toImage();
-    return image.isNull() ? std::string()
-                          : image.pixelColor(image.width() / 2, image.height() / 2).name().toStdString();
-  }
+  static std::string ShownColour() { return Hands::MiddleColour(Picture().Picture().toImage()); }
   static void ExpectPicture(const char* colour)
   {
     EXPECT_EQ(ShownColour(), colour);
@@ -350,8 +220,4 @@ protected:
   }
 
   static std::string Clipboard() { return QApplication::clipboard()->text().toStdString(); }
-
-  ProgramFolder folder;
-  MessageBoxScript boxes;
-  LookupFrame frame;
 };

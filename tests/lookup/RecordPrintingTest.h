@@ -3,63 +3,22 @@
 
 #pragma once
 
-#include "controls/Form.h"
-#include "controls/Forms.h"
-#include "controls/Frame.h"
 #include "controls/Label.h"
-#include "controls/ListBox.h"
-#include "controls/modID.h"
-#include "looks/Style.h"
 #include "lookup/frmQuillmark.h"
 #include "people/modImages.h"
-#include "platform/Application.h"
-#include "platform/Attempt.h"
-#include "platform/Clock.h"
-#include "platform/Command.h"
 #include "platform/Printer.h"
-#include "support/Drive.h"
-#include "support/MessageBoxScript.h"
+#include "support/PageTest.h"
 #include "support/PrintDialogScript.h"
 #include "support/PrintedPages.h"
-#include "support/ProgramFolder.h"
 
-#include <QAbstractButton>
-#include <QDir>
 #include <QFile>
-#include <QStandardPaths>
 #include <QTemporaryDir>
-
-#include <gtest/gtest.h>
 
 #include <algorithm>
 #include <array>
 
-// A frame with a plain window for the pages.
-class PrintingFrame : public Frame
-{
-public:
-  [[nodiscard]] WindowState State() const override { return WindowState::kNormal; }
-  void SetState(WindowState /*state*/) override {}
-  bool Unload() override { return true; }
-  void PlacePage(Form& page) override
-  {
-    page.setParent(&window);
-    window.resize(page.size());
-    page.move(0, 0);
-    page.show();
-    window.show();
-    window.activateWindow();
-  }
-  void OpenPage(const QString& name) override { Forms::Load(name).Show(); }
-  void AllowDatabaseCare(bool /*allowed*/) override {}
-  [[nodiscard]] bool TimerEnabled() const override { return false; }
-  void SetTimerEnabled(bool /*enabled*/) override {}
-
-  QWidget window;
-};
-
 // The look-up page prints, on 5 November 2026, to a PDF file of the test's own.
-class RecordPrintingTest : public testing::Test
+class RecordPrintingTest : public PageTest<frmQuillmark>
 {
 protected:
   // Twips: how near a printed place is, the captions' column and that of the second line of a
@@ -75,30 +34,9 @@ protected:
   static constexpr std::array<const char*, 8> kBoxes = {"chkInfo_0", "chkInfo_3",     "chkInfo_4",     "chkInfo_1",
                                                         "chkInfo_2", "chkPersonal_0", "chkPersonal_1", "chkNotes"};
 
-  RecordPrintingTest()
-  {
-    QStandardPaths::setTestModeEnabled(true);
-    Style::Apply(*qApp);
-    Application::SetEnding([](int) { ADD_FAILURE() << "the program has ended"; });
-    Forms::Register("frmQuillmark", [] { return new frmQuillmark; });
-    QDir(folder.Path()).mkdir("PeoplePics");
-    QDir(folder.Path()).mkdir("themes");
-    Clock::StopOn(QDate(2026, 11, 5));
-    modID::SelectedPersonID = 0;
-  }
+  RecordPrintingTest() : PageTest(QStringList()) { Clock::StopOn(QDate(2026, 11, 5)); }
 
-  ~RecordPrintingTest() override
-  {
-    for (Form* form : Forms::AllLoaded()) {
-      Attempt([form] { form->Unload(); });
-    }
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    Forms::UnregisterAll();
-    Application::SetEnding({});
-    Clock::StopOn({});
-    modID::SelectedPersonID = 0;
-    Printer::EndDoc();
-  }
+  ~RecordPrintingTest() override { Printer::EndDoc(); }
 
   // --- The database. Returns the key.
 
@@ -138,32 +76,10 @@ protected:
 
   // --- The page.
 
-  void Open()
-  {
-    Command::Run([] { Forms::Load("frmQuillmark").Show(); });
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&frame.window));
-  }
-  static Form& Page() { return *Forms::Loaded("frmQuillmark"); }
-  static QWidget& Control(const QString& name) { return Drive::Control(Page(), name); }
   static ListBox& Names() { return dynamic_cast<ListBox&>(Control("lstNames")); }
-  static bool IsTicked(const QString& name) { return dynamic_cast<QAbstractButton&>(Control(name)).isChecked(); }
-  static bool IsShown(const QString& name) { return Control(name).isVisibleTo(&Page()); }
-  static std::string Name() { return dynamic_cast<Label&>(Control("lblName")).text().toStdString(); }
+  static std::string Name() { return Caption("lblName"); }
 
-  static void Click(const QString& name) { Drive::Click(Page(), name); }
-  // Clicks on a check box or an option button, near its mark.
-  static void Tick(const QString& name)
-  {
-    QWidget& button = Control(name);
-    QTest::mouseClick(&button, Qt::LeftButton, {}, QPoint(8, button.height() / 2));
-  }
-  static void ClickName(int line)
-  {
-    const QModelIndex index = Names().model()->index(line, 0);
-    ASSERT_TRUE(index.isValid()) << line;
-    Names().scrollTo(index);
-    QTest::mouseClick(Names().viewport(), Qt::LeftButton, {}, Names().visualRect(index).center());
-  }
+  static void ClickName(int line) { Hands::ClickLine(Names(), line); }
 
   // Opens the page and its panel for printing, with everything ticked.
   void OpenWithAll()
@@ -239,10 +155,7 @@ protected:
     }
   }
 
-  ProgramFolder folder;
   QTemporaryDir output;
   QString path = output.filePath("list.pdf");
-  MessageBoxScript boxes;
   PrintDialogScript dialogs;
-  PrintingFrame frame;
 };

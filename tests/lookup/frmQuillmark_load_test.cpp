@@ -200,8 +200,8 @@ TEST_F(LookupLoad, EveryPictureThemeHasItsPicture)
   const std::array<const char*, 4> pictures = {"bicyclew.jpg", "irisw4.jpg", "wchellow3.jpg", "giraffew.jpg"};
   for (int theme = 0; theme < 4; ++theme) {
     folder.Execute("UPDATE Options SET Theme=?", {theme});
-    SavePicture(folder.File(QStringLiteral("/themes/") + pictures.at(static_cast<std::size_t>(theme))), Qt::green,
-                {20 + theme, 30});
+    Hands::SavePicture(folder.File(QStringLiteral("/themes/") + pictures.at(static_cast<std::size_t>(theme))),
+                       Qt::green, {20 + theme, 30});
     Open();
     EXPECT_EQ(ThemePicture().Picture().size(), QSize(20 + theme, 30)) << theme;
     Leave();

@@ -161,7 +161,7 @@ TEST_F(LookupOrders, AnotherOrderResetsEverything)
   UseGarden();
   const int ann = AddAnn();
   Change(ann, "BirthDate", {});
-  SavePicture(PictureFile(ann));
+  Hands::SavePicture(PictureFile(ann));
   Open();
   Click(kCheckAll);
   ClickLine(0);

@@ -15,9 +15,9 @@ protected:
   void OpenWithPictures(QSize annSize = {40, 20}, QSize eveSize = {20, 40})
   {
     UseGarden();
-    SavePicture(PictureFile(AddPerson("Ann", "Wood")), Qt::red, annSize);
+    Hands::SavePicture(PictureFile(AddPerson("Ann", "Wood")), Qt::red, annSize);
     AddPerson("Bob", "Wood");
-    SavePicture(PictureFile(AddPerson("Eve", "Wood")), Qt::blue, eveSize);
+    Hands::SavePicture(PictureFile(AddPerson("Eve", "Wood")), Qt::blue, eveSize);
     Open();
     place = PlaceByDesign();
   }
@@ -180,8 +180,8 @@ TEST_F(LookupPicture, ADamagedPictureCountsAsNone)
 TEST_F(LookupPicture, OnlyTheBitmapOfThatKeyCounts)
 {
   OpenWithPictures();
-  SavePicture(folder.File("/PeoplePics/2.jpg"));
-  SavePicture(folder.File("/PeoplePics/22.bmp"));
+  Hands::SavePicture(folder.File("/PeoplePics/2.jpg"));
+  Hands::SavePicture(folder.File("/PeoplePics/22.bmp"));
   ClickLine(1);
   ExpectThemePicture();
 }

@@ -9,7 +9,6 @@
 #include "support/PrintDialogScript.h"
 #include "support/PrintedPages.h"
 
-#include <QAbstractButton>
 #include <QFile>
 #include <QTemporaryDir>
 
@@ -31,14 +30,6 @@ protected:
   static inline const QString kAllMonths = QStringLiteral("optPrint_1");
 
   ~OccasionPrintingTest() override { Printer::EndDoc(); }
-
-  // Clicks on a check box or an option button, near its mark.
-  static void Tick(const QString& name)
-  {
-    QWidget& button = Control(name);
-    QTest::mouseClick(&button, Qt::LeftButton, {}, QPoint(8, button.height() / 2));
-  }
-  static bool IsTicked(const QString& name) { return dynamic_cast<QAbstractButton&>(Control(name)).isChecked(); }
 
   // Opens the page with its panel for printing, on that month.
   void OpenOn(int month)

@@ -18,7 +18,7 @@ protected:
   void UseGarden() const
   {
     folder.Execute("UPDATE Options SET Theme=1");
-    SavePicture(folder.File("/themes/fruitw.jpg"), Qt::green, {24, 30});
+    Hands::SavePicture(folder.File("/themes/fruitw.jpg"), Qt::green, {24, 30});
   }
   void ExpectDecoration()
   {
@@ -139,7 +139,7 @@ TEST_F(SpecialDetails, WithoutADayNothingFurtherIsKnown)
   Open();
   ClickLine(kBirthdays, 1);
   ASSERT_EQ(modID::SelectedPersonID, ann);
-  SavePicture(PersonFile(eve));
+  Hands::SavePicture(PersonFile(eve));
   ClickLine(kBirthdays, 0);
   EXPECT_EQ(TextOf("txtBDetails"), "No further information available");
   EXPECT_EQ(TextOf("txtBirthInfo"), "Birthday details for Ann...");
@@ -336,7 +336,7 @@ TEST_F(SpecialDetails, APersonsPictureTakesThePlaceOfTheDecoration)
   UseGarden();
   const int ann = AddPerson("Ann", "May", "1");
   AddPerson("Eve", "May", "2");
-  SavePicture(PersonFile(ann));
+  Hands::SavePicture(PersonFile(ann));
   Open();
   ExpectDecoration();
   ClickLine(kBirthdays, 0);
@@ -356,8 +356,8 @@ TEST_F(SpecialDetails, ACouplesPictureComesFromItsOwnFolder)
   UseGarden();
   const int couple = AddCouple("Ann", "Bob", "May", "1");
   AddCouple("Eve", "Joe", "May", "2");
-  SavePicture(CoupleFile(couple), Qt::blue);
-  SavePicture(PersonFile(couple), Qt::red);
+  Hands::SavePicture(CoupleFile(couple), Qt::blue);
+  Hands::SavePicture(PersonFile(couple), Qt::red);
   Open();
   ClickLine(kCouples, 0);
   EXPECT_EQ(ShownColour(), "#0000ff");
@@ -383,7 +383,7 @@ TEST_F(SpecialDetails, ADamagedPictureCountsAsNone)
 TEST_F(SpecialDetails, AnotherMonthBringsTheDecorationBack)
 {
   UseGarden();
-  SavePicture(PersonFile(AddPerson("Ann", "May", "1")));
+  Hands::SavePicture(PersonFile(AddPerson("Ann", "May", "1")));
   Open();
   ClickLine(kBirthdays, 0);
   ASSERT_TRUE(IsShown("picPerson"));
@@ -395,8 +395,8 @@ TEST_F(SpecialDetails, EveryPictureIsFittedToTheWholeBox)
 {
   const int ann = AddPerson("Ann", "May", "1");
   const int eve = AddPerson("Eve", "May", "2");
-  SavePicture(PersonFile(ann), Qt::red, {20, 400});
-  SavePicture(PersonFile(eve), Qt::blue, {400, 40});
+  Hands::SavePicture(PersonFile(ann), Qt::red, {20, 400});
+  Hands::SavePicture(PersonFile(eve), Qt::blue, {400, 40});
   Open();
   ClickLine(kBirthdays, 1);
   const QSize alone = Picture().size();

@@ -56,7 +56,7 @@ TEST_F(SpecialMonths, TheYearsRunFrom1900To2050)
   for (int year = 1900; year <= 2050; ++year) {
     years.append(QString::number(year));
   }
-  EXPECT_EQ(LinesOf(Combo("cboYear")), years);
+  EXPECT_EQ(Hands::LinesOf(Combo("cboYear")), years);
 }
 
 TEST_F(SpecialMonths, EveryLabelOfTheStripShowsItsMonth)

@@ -286,13 +286,13 @@ TEST_F(SpecialPanels, FamousBirthdaysOpenOnToday)
   Click("lblOptions_5");
   EXPECT_EQ(Combo("cboMonth").Text().toStdString(), "March");
   EXPECT_EQ(Combo("cboDay").Text().toStdString(), "7");
-  EXPECT_EQ(LinesOf(Combo("cboMonth")).join(' ').toStdString(),
+  EXPECT_EQ(Hands::LinesOf(Combo("cboMonth")).join(' ').toStdString(),
             "January February March April May June July August September October November December");
   QStringList days;
   for (int day = 1; day <= 31; ++day) {
     days.append(QString::number(day));
   }
-  EXPECT_EQ(LinesOf(Combo("cboDay")), days);
+  EXPECT_EQ(Hands::LinesOf(Combo("cboDay")), days);
   Click("lblOptions_8");
   ASSERT_EQ(catcher.Taken.size(), 1);
   EXPECT_EQ(catcher.Taken[0].path().toStdString(), folder.File("/famous/mar.html").toStdString());
@@ -307,7 +307,7 @@ TEST_F(SpecialPanels, EveryMonthHasItsPageAndLaterDaysStandAsTheyAre)
   const QStringList keys = {"jan", "feb", "mar", "apr", "may", "jun", "jul", "aug", "sep", "oct", "nov", "dec"};
   const QStringList days = {"10", "31", "1", "9", "11", "19", "20", "29", "30", "2", "5", "15"};
   const QStringList anchors = {"10", "31", "01", "09", "11", "19", "20", "29", "30", "02", "05", "15"};
-  const QStringList months = LinesOf(Combo("cboMonth"));
+  const QStringList months = Hands::LinesOf(Combo("cboMonth"));
   ASSERT_EQ(months.size(), 12);
   for (int i = 0; i < 12; ++i) {
     Connect(months[i], days[i]);
@@ -421,7 +421,7 @@ TEST_F(SpecialPanels, TheBeigeThemeIsAppliedAtTheLoad)
 TEST_F(SpecialPanels, APictureThemeIsAppliedAtTheLoad)
 {
   folder.Execute("UPDATE Options SET Theme=1");
-  SavePicture(folder.File("/themes/fruitw.jpg"), Qt::green, {24, 30});
+  Hands::SavePicture(folder.File("/themes/fruitw.jpg"), Qt::green, {24, 30});
   Open();
   EXPECT_EQ(dynamic_cast<PictureBox&>(Control("picThemes")).Picture().size(), QSize(24, 30));
   EXPECT_TRUE(IsShown("picThemes"));

@@ -3,70 +3,17 @@
 
 #pragma once
 
-#include "controls/ComboBox.h"
 #include "controls/EntryBox.h"
-#include "controls/Form.h"
-#include "controls/Forms.h"
-#include "controls/Frame.h"
 #include "controls/Image.h"
 #include "controls/Label.h"
-#include "controls/modID.h"
-#include "looks/Style.h"
 #include "people/frmNew.h"
-#include "platform/Application.h"
-#include "platform/Attempt.h"
-#include "platform/Clock.h"
-#include "platform/Command.h"
-#include "support/Drive.h"
 #include "support/FileDialogScript.h"
 #include "support/InputBoxScript.h"
-#include "support/MessageBoxScript.h"
-#include "support/ProgramFolder.h"
+#include "support/PageTest.h"
 
-#include <QAbstractItemView>
 #include <QClipboard>
-#include <QDir>
 #include <QFile>
-#include <QImage>
 #include <QPointer>
-#include <QStandardPaths>
-
-#include <gtest/gtest.h>
-
-// A page that only stands there.
-class PageBeside : public Form
-{
-public:
-  explicit PageBeside(const QString& name) : Form(name, Kind::kPage) {}
-};
-
-// A frame with a plain window for the pages, which remembers what it is told.
-class WindowedFrame : public Frame
-{
-public:
-  [[nodiscard]] WindowState State() const override { return state; }
-  void SetState(WindowState newState) override { state = newState; }
-  bool Unload() override { return true; }
-  void PlacePage(Form& page) override
-  {
-    placed.append(page.Name());
-    page.setParent(&window);
-    window.resize(page.size());
-    page.move(0, 0);
-    page.show();
-    window.show();
-    window.activateWindow();
-  }
-  void OpenPage(const QString& name) override { Forms::Load(name).Show(); }
-  void AllowDatabaseCare(bool allowed) override { careAllowed = allowed; }
-  [[nodiscard]] bool TimerEnabled() const override { return false; }
-  void SetTimerEnabled(bool /*enabled*/) override {}
-
-  QWidget window;
-  QStringList placed;
-  WindowState state = WindowState::kNormal;
-  bool careAllowed = true;
-};
 
 // Looks at the page while a message box stands over it, before the box is answered.
 class AtMessageBox : public QObject
@@ -134,35 +81,12 @@ inline const QString kHelp = QStringLiteral("lblOptions_10");
 
 // The real record editor in a frame of its own, over a database of the test's own, on
 // 5 May 2026.
-class PeopleTest : public testing::Test
+class PeopleTest : public PageTest<frmNew>
 {
 protected:
-  PeopleTest()
+  PeopleTest() : PageTest({"frmIntro", "frmAnn", "frmSpecial", "frmCharts", "frmQuillmark", "frmReminders"})
   {
-    QStandardPaths::setTestModeEnabled(true);
-    Style::Apply(*qApp);
-    Application::SetEnding([](int) { ADD_FAILURE() << "the program has ended"; });
-    Forms::Register("frmNew", [] { return new frmNew; });
-    for (const char* name : {"frmIntro", "frmAnn", "frmSpecial", "frmCharts", "frmQuillmark", "frmReminders"}) {
-      Forms::Register(name, [=] { return new PageBeside(name); });
-    }
-    QDir(folder.Path()).mkdir("PeoplePics");
-    QDir(folder.Path()).mkdir("AnnPics");
     Clock::StopOn(QDate(2026, 5, 5));
-    modID::SelectedPersonID = modID::CoupleSpouse1ID = modID::CoupleSpouse2ID = 0;
-    modID::RecordDeleted = false;
-  }
-
-  ~PeopleTest() override
-  {
-    for (Form* form : Forms::AllLoaded()) {
-      Attempt([form] { form->Unload(); });
-    }
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    Forms::UnregisterAll();
-    Application::SetEnding({});
-    Clock::StopOn({});
-    modID::SelectedPersonID = 0;
   }
 
   // --- The database, seen from outside.
@@ -224,46 +148,24 @@ protected:
   void Open(int selectedPerson = 0)
   {
     modID::SelectedPersonID = selectedPerson;
-    Command::Run([] { Forms::Load("frmNew").Show(); });
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&frame.window));
-  }
-  void Leave()
-  {
-    Command::Run([] { Forms::Unload("frmNew"); });
+    PageTest::Open();
   }
   void Reopen()
   {
     Leave();
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     Open();
   }
 
-  static bool IsOpen(const char* name = "frmNew") { return Forms::Loaded(name) != nullptr; }
-  static Form& Page() { return *Forms::Loaded("frmNew"); }
-  static QWidget& Control(const QString& name) { return Drive::Control(Page(), name); }
   static EntryBox& Box(const QString& name) { return dynamic_cast<EntryBox&>(Control(name)); }
   static ComboBox& Combo(const QString& name) { return dynamic_cast<ComboBox&>(Control(name)); }
   static Image& Picture() { return dynamic_cast<Image&>(Control("imgPerson")); }
 
-  static void Click(const QString& name) { Drive::Click(Page(), name); }
   static std::string Shown(const QString& box) { return Box(box).Text().toStdString(); }
-  static std::string Caption(const QString& label)
-  {
-    return dynamic_cast<QLabel&>(Control(label)).text().toStdString();
-  }
   static std::string Counter() { return Caption("lblValues"); }
   static std::string Name() { return Shown("txtFirst") + " " + Shown("txtLast"); }
-  static bool IsShown(const QString& name) { return Control(name).isVisibleTo(&Page()); }
   static bool HasPicture() { return Picture().Handle() != 0; }
 
-  static QStringList Lines(const QString& combo)
-  {
-    QStringList lines;
-    for (int i = 0; i < Combo(combo).ListCount(); ++i) {
-      lines.append(Combo(combo).List(i));
-    }
-    return lines;
-  }
+  static QStringList Lines(const QString& combo) { return Hands::LinesOf(Combo(combo)); }
 
   // True as soon as that control has the page's focus.
   static bool HasFocus(const QString& name)
@@ -294,10 +196,6 @@ protected:
 
   // --- Hands on the page.
 
-  static void Press(const QString& box, Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
-  {
-    QTest::keyClick(&Control(box), key, modifiers);
-  }
   static void Empty(const QString& box)
   {
     Press(box, Qt::Key_A, Qt::ControlModifier);
@@ -321,25 +219,8 @@ protected:
     Empty(box);
     Insert(box, text);
   }
-  static void Pick(const QString& combo, const QString& line)
-  {
-    const qsizetype index = Lines(combo).indexOf(line);
-    ASSERT_GE(index, 0) << line.toStdString();
-    PickLine(combo, static_cast<int>(index));
-  }
-  // Opens the list and clicks a line of it.
-  static void PickLine(const QString& combo, int index)
-  {
-    ComboBox& box = Combo(combo);
-    box.showPopup();
-    QAbstractItemView& view = *box.view();
-    ASSERT_TRUE(QTest::qWaitForWindowExposed(view.window()));
-    const QModelIndex line = view.model()->index(index, 0);
-    view.scrollTo(line);
-    QTest::mouseMove(view.viewport(), view.visualRect(line).center());
-    QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, view.visualRect(line).center());
-    ASSERT_TRUE(QTest::qWaitFor([&] { return !view.isVisible(); }));
-  }
+  static void Pick(const QString& combo, const QString& line) { Hands::PickLine(Combo(combo), line); }
+  static void PickLine(const QString& combo, int line) { Hands::PickLine(Combo(combo), line); }
 
   // --- Pictures.
 
@@ -362,12 +243,7 @@ protected:
     ASSERT_TRUE(Plain(size, colour).save(path)) << path.toStdString();
   }
   // The colour in the middle of what the page shows; empty without a picture.
-  static std::string ShownColour()
-  {
-    const QImage image = Picture().Picture().toImage();
-    return image.isNull() ? std::string()
-                          : image.pixelColor(image.width() / 2, image.height() / 2).name().toStdString();
-  }
+  static std::string ShownColour() { return Hands::MiddleColour(Picture().Picture().toImage()); }
   // Neither a picture in the image nor the image in sight.
   static void ExpectNoPicture()
   {
@@ -376,9 +252,6 @@ protected:
     EXPECT_TRUE(IsShown("picPerson"));
   }
 
-  ProgramFolder folder;
-  MessageBoxScript boxes;
   FileDialogScript dialogs;
   InputBoxScript questions;
-  WindowedFrame frame;
 };

@@ -15,7 +15,7 @@ public:
 };
 
 // A frame with a plain window around one page, which remembers what it is told.
-class StandInFrame : public Frame
+class WindowedFrame : public Frame
 {
 public:
   [[nodiscard]] WindowState State() const override { return state; }
@@ -23,6 +23,7 @@ public:
   bool Unload() override { return true; }
   void PlacePage(Form& page) override
   {
+    placed.append(page.Name());
     page.setParent(&window);
     window.resize(page.size());
     page.move(0, 0);
@@ -36,6 +37,7 @@ public:
   void SetTimerEnabled(bool /*enabled*/) override {}
 
   QWidget window;
+  QStringList placed;
   WindowState state = WindowState::kNormal;
   bool careAllowed = true;
 };
