@@ -23,15 +23,7 @@ QString TextIn(Recordset& person, const char* column)
 
 LetterTexts::Recipient ReadRecipient(Recordset& person)
 {
-  const AddressParts address = ReadAddress(person);
-  return {TextIn(person, "FirstName"),
-          TextIn(person, "LastName"),
-          address.street,
-          address.secondAddress,
-          address.city,
-          address.province,
-          address.postal,
-          address.country};
+  return {TextIn(person, "FirstName"), TextIn(person, "LastName"), ReadAddress(person)};
 }
 
 // Without any people there is nobody to select, and nothing is said.

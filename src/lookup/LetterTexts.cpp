@@ -32,36 +32,36 @@ QString Salutation(const Recipient& recipient)
 
 }
 
-QString StreetBlock(const Recipient& recipient)
+QString StreetBlock(const AddressParts& address)
 {
-  const QString street = recipient.street.toString();
-  const QString second = recipient.secondAddress.toString();
+  const QString street = address.street.toString();
+  const QString second = address.secondAddress.toString();
   return street.isEmpty() || second.isEmpty() ? street : street + QLatin1Char('\n') + second;
 }
 
-QString CityBlock(const Recipient& recipient)
+QString CityBlock(const AddressParts& address)
 {
-  return Joined(recipient.city, recipient.province);
+  return Joined(address.city, address.province);
 }
 
-QString CountryBlock(const Recipient& recipient)
+QString CountryBlock(const AddressParts& address)
 {
-  return Joined(recipient.country, recipient.postal);
+  return Joined(address.country, address.postal);
 }
 
-QString FullAddress(const Recipient& recipient)
+QString FullAddress(const AddressParts& address)
 {
-  return StreetBlock(recipient) + QLatin1Char('\n') + CityBlock(recipient) + QLatin1Char('\n') +
-         CountryBlock(recipient);
+  return StreetBlock(address) + QLatin1Char('\n') + CityBlock(address) + QLatin1Char('\n') + CountryBlock(address);
 }
 
 QString NotepadText(const Recipient& recipient, QDate today, bool withAddress)
 {
+  const AddressParts& address = recipient.address;
   QString text = DateLine(today) + QLatin1Char('\n');
   if (withAddress) {
     text += QStringLiteral("\n\n") + FullName(recipient);
-    for (const QString& line : {recipient.street.toString(), recipient.secondAddress.toString(), CityBlock(recipient),
-                                CountryBlock(recipient)}) {
+    for (const QString& line :
+         {address.street.toString(), address.secondAddress.toString(), CityBlock(address), CountryBlock(address)}) {
       text += line.isEmpty() ? QString() : QLatin1Char('\n') + line;
     }
   }
@@ -72,7 +72,7 @@ QString WordText(const Recipient& recipient, QDate today, bool withAddress)
 {
   const QString gap = QStringLiteral("\n\n");
   const QString address =
-      withAddress ? FullName(recipient) + QLatin1Char('\n') + FullAddress(recipient) + gap : QString();
+      withAddress ? FullName(recipient) + QLatin1Char('\n') + FullAddress(recipient.address) + gap : QString();
   return DateLine(today) + gap + address + Salutation(recipient);
 }
 

@@ -3,34 +3,30 @@
 
 #pragma once
 
+#include "lookup/AddressBlock.h"
+
 #include <QDate>
 #include <QString>
-#include <QVariant>
 
 // The opening lines of a letter. Lines end in a line feed.
 namespace LetterTexts {
 
-// Who the letter is for. Any part of the address may be Null; an empty text is one.
+// Who the letter is for. An empty part of the address is as Null.
 struct Recipient
 {
   QString firstName;
   QString lastName;
-  QVariant street;
-  QVariant secondAddress;
-  QVariant city;
-  QVariant province;
-  QVariant postal;
-  QVariant country;
+  AddressParts address;
 };
 
 // The blocks of an address; empty if nothing is known of them. A second address alone
 // makes no street block.
-[[nodiscard]] QString StreetBlock(const Recipient& recipient);
-[[nodiscard]] QString CityBlock(const Recipient& recipient);
-[[nodiscard]] QString CountryBlock(const Recipient& recipient);
+[[nodiscard]] QString StreetBlock(const AddressParts& address);
+[[nodiscard]] QString CityBlock(const AddressParts& address);
+[[nodiscard]] QString CountryBlock(const AddressParts& address);
 
 // The three blocks, always on lines of their own.
-[[nodiscard]] QString FullAddress(const Recipient& recipient);
+[[nodiscard]] QString FullAddress(const AddressParts& address);
 
 // The opening of a letter in an editor: the address line by line, where there is one.
 [[nodiscard]] QString NotepadText(const Recipient& recipient, QDate today, bool withAddress);

@@ -39,12 +39,9 @@ Recipient Person(const Block& street, const Block& city, const Block& country, i
   const auto way = [missing](bool isThere) { return isThere ? 0 : missing; };
   return {"Ann",
           "Lee",
-          Part("1 Elm Street", way(street.hasFirst)),
-          Part("Flat 2", way(street.hasSecond)),
-          Part("York", way(city.hasFirst)),
-          Part("ON", way(city.hasSecond)),
-          Part("A1 2B", way(country.hasSecond)),
-          Part("Canada", way(country.hasFirst))};
+          {Part("1 Elm Street", way(street.hasFirst)), Part("Flat 2", way(street.hasSecond)),
+           Part("York", way(city.hasFirst)), Part("ON", way(city.hasSecond)), Part("A1 2B", way(country.hasSecond)),
+           Part("Canada", way(country.hasFirst))}};
 }
 
 constexpr Block kStreets[] = {
@@ -78,10 +75,10 @@ const Block kNone = {false, false, ""};
 TEST(LetterTexts, AnAddressIsThreeBlocksWhateverIsMissing)
 {
   ForEveryCombination([](const Recipient& person, const Block& street, const Block& city, const Block& country) {
-    EXPECT_EQ(LetterTexts::StreetBlock(person).toStdString(), street.text);
-    EXPECT_EQ(LetterTexts::CityBlock(person).toStdString(), city.text);
-    EXPECT_EQ(LetterTexts::CountryBlock(person).toStdString(), country.text);
-    EXPECT_EQ(LetterTexts::FullAddress(person).toStdString(),
+    EXPECT_EQ(LetterTexts::StreetBlock(person.address).toStdString(), street.text);
+    EXPECT_EQ(LetterTexts::CityBlock(person.address).toStdString(), city.text);
+    EXPECT_EQ(LetterTexts::CountryBlock(person.address).toStdString(), country.text);
+    EXPECT_EQ(LetterTexts::FullAddress(person.address).toStdString(),
               std::string(street.text) + "\n" + city.text + "\n" + country.text);
   });
 }
