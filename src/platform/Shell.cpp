@@ -3,6 +3,8 @@
 
 #include "platform/Shell.h"
 
+#include "platform/Privacy.h"
+
 #include <QDesktopServices>
 #include <QProcess>
 #include <QUrl>
@@ -18,6 +20,7 @@ constexpr int kMoment = 400;
 
 bool Shell::Open(const QUrl& address)
 {
+  const Privacy::AsUsersOthers permissions;
   return QDesktopServices::openUrl(address);
 }
 
@@ -25,6 +28,7 @@ bool Shell::Open(const QUrl& address)
 // itself or this process does.
 bool Shell::Start(const QStringList& command, const std::function<void()>& ended)
 {
+  const Privacy::AsUsersOthers permissions;
   auto* process = new QProcess;
   process->setChildProcessModifier([] { ::setsid(); });
   process->setStandardInputFile(QProcess::nullDevice());

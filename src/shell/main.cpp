@@ -3,14 +3,18 @@
 
 #include "lookup/Letters.h"
 #include "looks/Style.h"
+#include "platform/App.h"
 #include "platform/Application.h"
+#include "platform/Privacy.h"
 #include "shell/StartUp.h"
 #include "shell/mdiQuillmark.h"
 
 int main(int argc, char** argv)
 {
+  Privacy::KeepToOwner();
   Application application(argc, argv);
   Style::Apply(application);
+  Privacy::CloseToOthers(App::Path());
   RegisterForms();
   mdiQuillmark frame;
   Application::RunGuarded([&] { StartUp(frame); });
