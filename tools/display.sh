@@ -15,21 +15,38 @@ finish() {
 }
 trap finish EXIT
 
-start_display() {
-  local number
-  mkfifo "$work/display"
-  Xvfb -displayfd 3 -screen 0 1280x1024x24 -nolisten tcp 3<>"$work/display" >"$work/xvfb.log" 2>&1 &
+has_window_manager() {
+  xprop -root _NET_SUPPORTING_WM_CHECK 2>/dev/null | grep -q "window id"
+}
+
+try_display() {
+  local display=$work/display$1 number
+  mkfifo "$display"
+  Xvfb -displayfd 3 -screen 0 1280x1024x24 -nolisten tcp 3<>"$display" >"$work/xvfb.log" 2>&1 &
   children+=($!)
-  read -r -t 30 number <"$work/display"
+  read -r -t 30 number <>"$display" || return 1
   export DISPLAY=:$number
   openbox >"$work/openbox.log" 2>&1 &
   children+=($!)
-  for _ in $(seq 300); do
-    if xprop -root _NET_SUPPORTING_WM_CHECK 2>/dev/null | grep -q "window id"; then
+  for _ in $(seq 100); do
+    if has_window_manager; then
       return
     fi
     sleep 0.1
   done
-  echo "The window manager does not come up" >&2
+  return 1
+}
+
+# A display whose number another program takes in the same moment does not come up well;
+# then another one is tried.
+start_display() {
+  local try
+  for try in 1 2 3 4 5; do
+    if try_display "$try"; then
+      return
+    fi
+  done
+  cat "$work/xvfb.log" "$work/openbox.log" >&2
+  echo "No virtual display with a window manager can be had" >&2
   return 1
 }

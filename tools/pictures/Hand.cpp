@@ -13,6 +13,7 @@
 #include <QProcess>
 #include <QScreen>
 #include <QThread>
+#include <QWindow>
 
 #include <optional>
 #include <stdexcept>
@@ -78,9 +79,17 @@ QWidget* Visible(const QString& form, const QString& control)
   return found != nullptr && found->isVisible() ? found : nullptr;
 }
 
+// A window that has just come up may still be moved, and takes no clicks before it is the active one.
+bool TakesClicks(const QWidget& widget)
+{
+  const QWidget* window = widget.window();
+  const bool isPopup = window->windowType() == Qt::Popup;
+  return widget.isEnabled() && window->windowHandle()->isExposed() && (isPopup || window->isActiveWindow());
+}
+
 std::optional<QPoint> MiddleOf(const QWidget* widget, const QRect& part)
 {
-  return widget == nullptr || part.isEmpty() ? std::nullopt : std::optional(widget->mapToGlobal(part.center()));
+  return part.isEmpty() || !TakesClicks(*widget) ? std::nullopt : std::optional(widget->mapToGlobal(part.center()));
 }
 
 std::optional<QPoint> PlaceOfLine(const QString& form, const QString& list, const QString& beginning)
@@ -130,7 +139,7 @@ void Hand::Click(const QString& form, const QString& control)
 {
   ClickAt(Await(form + QLatin1Char(' ') + control, [&] {
     const QWidget* widget = Visible(form, control);
-    return widget == nullptr || !widget->isEnabled() ? std::nullopt : MiddleOf(widget, widget->rect());
+    return widget == nullptr ? std::nullopt : MiddleOf(widget, widget->rect());
   }));
 }
 

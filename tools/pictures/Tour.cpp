@@ -30,6 +30,7 @@ void Click(const QString& form, const char* control)
 void Notices()
 {
   Hand::ClickLine(kNotices, QStringLiteral("lstNotices"), QString());
+  Hand::AwaitShown(kNotices, QStringLiteral("lstMoreInfo"));
 }
 
 void MainPage()
