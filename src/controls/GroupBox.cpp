@@ -3,7 +3,12 @@
 
 #include "controls/GroupBox.h"
 
+#include "controls/Label.h"
+
 #include <QPainter>
+#include <QStyle>
+
+#include <algorithm>
 
 namespace {
 
@@ -44,7 +49,26 @@ void GroupBox::PaintCard(QPainter& painter) const
   painter.drawRoundedRect(card, kCornerRadius, kCornerRadius);
 }
 
-void GroupBox::paintEvent(QPaintEvent* event)
+// Above the controls, or as high as those that stand at the upper edge.
+QRect GroupBox::TitleRoom() const
+{
+  QRect room = rect();
+  int beside = height();
+  room.setLeft(width());
+  for (const QWidget* control : findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly)) {
+    const auto* label = qobject_cast<const Label*>(control);
+    room.setLeft(std::min(room.left(), control->x() + (label == nullptr ? 0 : label->TextInset())));
+    if (control->y() > 0) {
+      room.setBottom(std::min(room.bottom(), control->y()));
+    } else {
+      beside = std::min(beside, control->height());
+    }
+  }
+  room.setBottom(std::min(room.bottom(), beside));
+  return room;
+}
+
+void GroupBox::paintEvent(QPaintEvent*)
 {
   QPainter painter(this);
   if (IsPanel()) {
@@ -52,6 +76,6 @@ void GroupBox::paintEvent(QPaintEvent* event)
   } else if (backColor_.isValid()) {
     painter.fillRect(rect(), backColor_);
   }
-  painter.end();
-  QGroupBox::paintEvent(event);
+  style()->drawItemText(&painter, TitleRoom(), Qt::AlignLeft | Qt::AlignVCenter, palette(), isEnabled(),
+                        title().trimmed(), QPalette::WindowText);
 }

@@ -6,7 +6,9 @@
 #include <QColor>
 #include <QGroupBox>
 
-// A frame around controls that belong together, under a caption. With the role "panel" it
+// A frame around controls that belong together, under a caption, which begins where they
+// begin and stands halfway between them and the upper edge, or beside them if they reach up
+// to it. With the role "panel" it
 // is a card that lies on top of the page: lined, rounded and with a soft shadow.
 class GroupBox : public QGroupBox
 {
@@ -29,6 +31,7 @@ protected:
 private:
   [[nodiscard]] bool IsPanel() const;
   void PaintCard(QPainter& painter) const;
+  [[nodiscard]] QRect TitleRoom() const;
 
   QColor backColor_;
   QString role_;

@@ -129,14 +129,23 @@ void Label::paintEvent(QPaintEvent*)
   }
 }
 
+// Grows with a label that grows with its page.
+int Label::TextInset() const
+{
+  constexpr int kInset = 8;
+  constexpr int kUsualHeight = 28;
+  return role_ == QLatin1String("command") ? std::max(kInset, height() * kInset / kUsualHeight) : 0;
+}
+
 void Label::PaintText(QPainter& painter) const
 {
-  const int inset = role_ == QLatin1String("command") ? 8 : 0;
+  const int inset = TextInset();
   const int flags = static_cast<int>(alignment()) | (wordWrap() ? Qt::TextWordWrap : Qt::TextSingleLine);
   QPalette colors = palette();
   colors.setColor(QPalette::Active, QPalette::WindowText, ForeColor());
   colors.setColor(QPalette::Inactive, QPalette::WindowText, ForeColor());
   const QRect room = rect().adjusted(inset, 0, -inset, 0);
-  const QString shown = wordWrap() ? text() : fontMetrics().elidedText(text(), Qt::ElideRight, room.width());
+  const QString caption = role_ == QLatin1String("details") ? text() : text().trimmed();
+  const QString shown = wordWrap() ? caption : fontMetrics().elidedText(caption, Qt::ElideRight, room.width());
   style()->drawItemText(&painter, room, flags, colors, isEnabled(), shown, QPalette::WindowText);
 }

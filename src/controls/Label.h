@@ -37,6 +37,10 @@ public:
   void SetRole(const QString& role);
   [[nodiscard]] bool IsCommand() const;
 
+  // How far from the edge the caption begins. Blanks around a caption are not painted, save
+  // in details, which are shown as they are.
+  [[nodiscard]] int TextInset() const;
+
 Q_SIGNALS:
   void Click();
 

@@ -9,6 +9,15 @@
 #include <QPainter>
 #include <QScopedValueRollback>
 
+namespace {
+
+bool IsCell(const ListBox& list)
+{
+  return list.property("role") == QLatin1String("cell");
+}
+
+}
+
 ListBox::ListBox(QWidget* parent) : QListView(parent), lines_(new LinesModel(this))
 {
   setModel(lines_);
@@ -135,9 +144,28 @@ void ListBox::focusInEvent(QFocusEvent* event)
   viewport()->update();
 }
 
+void ListBox::updateGeometries()
+{
+  QListView::updateGeometries();
+  LeaveOutPartOfALine();
+}
+
+// What is left of the height below the last whole line stays blank. A list that is lower
+// than a line shows what it can, and a cell is lit up to its edge.
+void ListBox::LeaveOutPartOfALine()
+{
+  const int line = sizeHintForRow(0);
+  const int room = viewport()->height() + viewportMargins().bottom();
+  const int rest = line > 0 && room > line && !IsCell(*this) ? room % line : 0;
+  if (rest != viewportMargins().bottom()) {
+    setViewportMargins(0, 0, 0, rest);
+  }
+}
+
 void ListBox::paintEvent(QPaintEvent* event)
 {
-  if (backColor_.isValid()) {
+  const bool isPlainCell = backColor_ == Qt::white && IsCell(*this);
+  if (backColor_.isValid() && !isPlainCell) {
     QPainter(viewport()).fillRect(viewport()->rect(), backColor_);
   }
   QListView::paintEvent(event);

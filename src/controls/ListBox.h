@@ -37,7 +37,8 @@ public:
   [[nodiscard]] bool Sorted() const { return sorted_; }
   void SetSorted(bool sorted) { sorted_ = sorted; }
 
-  // Invalid, for the page's own look of lists, unless one was set.
+  // Invalid, for the page's own look of lists, unless one was set. With the role
+  // "cell", white is that look, too, so that a picture behind the list stays to be seen.
   [[nodiscard]] QColor BackColor() const { return backColor_; }
   void SetBackColor(const QColor& color);
 
@@ -52,8 +53,11 @@ protected:
   void mousePressEvent(QMouseEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
+  void updateGeometries() override;
 
 private:
+  void LeaveOutPartOfALine();
+
   LinesModel* lines_;
   QColor backColor_;
   bool sorted_ = false;

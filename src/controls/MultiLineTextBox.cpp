@@ -5,7 +5,10 @@
 
 #include "controls/Repolish.h"
 
+#include <QAbstractTextDocumentLayout>
 #include <QMimeData>
+
+#include <algorithm>
 
 namespace {
 
@@ -41,6 +44,28 @@ void MultiLineTextBox::SetText(const QString& text)
   setPlainText(text);
   if (wraps) {
     setLineWrapMode(WidgetWidth);
+  }
+  StandAtLowerEdge();
+}
+
+void MultiLineTextBox::resizeEvent(QResizeEvent* event)
+{
+  QPlainTextEdit::resizeEvent(event);
+  StandAtLowerEdge();
+}
+
+void MultiLineTextBox::StandAtLowerEdge()
+{
+  if (property("role") != QLatin1String("caption")) {
+    return;
+  }
+  document()->setDocumentMargin(0);
+  const int lines = qRound(document()->documentLayout()->documentSize().height());
+  const int room = viewport()->height() + viewportMargins().top();
+  const int above = std::max(0, room - lines * fontMetrics().lineSpacing());
+  setVerticalScrollBarPolicy(above > 0 ? Qt::ScrollBarAlwaysOff : Qt::ScrollBarAsNeeded);
+  if (above != viewportMargins().top()) {
+    setViewportMargins(0, above, 0, 0);
   }
 }
 

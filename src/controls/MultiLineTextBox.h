@@ -8,7 +8,8 @@
 #include <QPlainTextEdit>
 
 // A box for text of several lines, wrapped, with a scroll bar where it is needed. Tab leaves
-// it. A text with a line of enormous length is not wrapped, which would take minutes.
+// it. With the role "caption" the text stands at the lower edge, over what it names. A text with a line of enormous
+// length is not wrapped, which would take minutes.
 class MultiLineTextBox : public QPlainTextEdit, public EntryBox
 {
   Q_OBJECT
@@ -31,8 +32,11 @@ public:
 
 protected:
   void insertFromMimeData(const QMimeData* source) override;
+  void resizeEvent(QResizeEvent* event) override;
 
 private:
+  void StandAtLowerEdge();
+
   QString set_;
   int tabIndex_ = -1;
 };

@@ -40,6 +40,10 @@ void Shape::paintEvent(QPaintEvent*)
 {
   constexpr qreal kRadius = 6;
   QPainter painter(this);
+  if (figure_ == Hairline) {
+    painter.fillRect(width() > height() ? QRect(0, 0, width(), 1) : QRect(0, 0, 1, height()), fillColor_);
+    return;
+  }
   painter.setRenderHint(QPainter::Antialiasing, figure_ != Rectangle);
   painter.setPen(lineColor_.isValid() ? QPen(lineColor_) : QPen(Qt::NoPen));
   painter.setBrush(fillStyle_ == kSolid ? QBrush(fillColor_) : QBrush(Qt::NoBrush));

@@ -21,6 +21,7 @@ public:
     Rectangle,
     Circle,
     RoundedRectangle,
+    Hairline,  // one pixel thick along the longer side, however thick its place is
   };
   Q_ENUM(Figure)
 

@@ -7,7 +7,8 @@
 
 #include <QLineEdit>
 
-// A box for one line of text, of any length.
+// A box for one line of text, of any length. While it is locked and has not the focus, a
+// text that is too long for it ends in an ellipsis.
 class TextBox : public QLineEdit, public EntryBox
 {
   Q_OBJECT
@@ -26,6 +27,11 @@ public:
   [[nodiscard]] int TabIndex() const { return tabIndex_; }
   void SetTabIndex(int index) { tabIndex_ = index; }
 
+protected:
+  void paintEvent(QPaintEvent* event) override;
+
 private:
+  [[nodiscard]] QRect TextRoom() const;
+
   int tabIndex_ = -1;
 };

@@ -290,3 +290,30 @@ TEST_F(LabelTest, FocusMarkIsSeenOnAnOpaqueCommandToo)
   label_.setFocus(Qt::TabFocusReason);
   EXPECT_NE(label_.grab().toImage(), without);
 }
+
+TEST_F(LabelTest, BlanksAroundACaptionAreNotPaintedSaveInDetails)
+{
+  label_.setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+  const auto painted = [this](const char* text) {
+    label_.setText(QString::fromLatin1(text));
+    return window_.grab().toImage();
+  };
+  for (const char* role : {"heading", "caption", "title", "command"}) {
+    label_.SetRole(QString::fromLatin1(role));
+    const QImage plain = painted("Name");
+    EXPECT_EQ(painted("  Name "), plain) << role;
+    EXPECT_EQ(label_.text(), "  Name ");
+  }
+  label_.SetRole(QStringLiteral("details"));
+  EXPECT_NE(painted("  Name"), painted("Name"));
+}
+
+TEST_F(LabelTest, RoomBesideTheCaptionOfACommandGrowsWithTheLabel)
+{
+  EXPECT_EQ(label_.TextInset(), 0);
+  MakeCommand();
+  for (const auto& [height, inset] : {std::pair(20, 8), std::pair(28, 8), std::pair(30, 8), std::pair(56, 16)}) {
+    label_.resize(120, height);
+    EXPECT_EQ(label_.TextInset(), inset) << height;
+  }
+}

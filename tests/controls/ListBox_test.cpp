@@ -491,3 +491,45 @@ TEST(LongListBox, LastLineIsReachedAndClicked)
   EXPECT_EQ(list.ListIndex(), kMany - 1);
   EXPECT_EQ(clicks.count(), 1);
 }
+
+TEST_F(ListBoxTest, OnlyWholeLinesAreShown)
+{
+  for (int i = 0; i < 40; ++i) {
+    list_.AddItem(QString::number(i));
+  }
+  Show();
+  const int line = list_.sizeHintForRow(0);
+  for (const int lines : {1, 3, 5}) {
+    for (const int rest : {1, line / 2, line - 1}) {
+      list_.resize(200, 2 * list_.frameWidth() + lines * line + rest);
+      EXPECT_EQ(list_.viewport()->height(), lines * line) << lines << " lines and " << rest;
+    }
+  }
+}
+
+TEST_F(ListBoxTest, AListLowerThanALineShowsWhatItCan)
+{
+  Show();
+  const int height = list_.sizeHintForRow(0) - 4;
+  list_.resize(200, 2 * list_.frameWidth() + height);
+  EXPECT_EQ(list_.viewport()->height(), height);
+}
+
+TEST_F(ListBoxTest, WhiteCellLetsThroughWhatIsBehindAndAnotherColourDoesNot)
+{
+  QWidget ground;
+  QPalette palette;
+  palette.setColor(QPalette::Window, Qt::red);
+  ground.setPalette(palette);
+  list_.setParent(&ground);
+  list_.setStyleSheet(QStringLiteral("border: none; background: rgba(255, 255, 255, 50%)"));
+  const auto below = [&] { return ground.grab().toImage().pixelColor(100, 100); };
+  list_.SetBackColor(Qt::white);
+  EXPECT_EQ(below(), QColor(Qt::white));
+  list_.setProperty("role", QStringLiteral("cell"));
+  EXPECT_LT(below().green(), 200);
+  EXPECT_EQ(below().red(), 255);
+  list_.SetBackColor(Qt::yellow);
+  EXPECT_EQ(below(), QColor(Qt::yellow));
+  list_.setParent(nullptr);
+}

@@ -192,3 +192,20 @@ TEST_F(MultiLineTextBoxTest, AnEnormousLineIsTakenWithoutWrapping)
   entry_.SetText(lines);
   EXPECT_EQ(box_.lineWrapMode(), QPlainTextEdit::WidgetWidth);
 }
+
+TEST_F(MultiLineTextBoxTest, CaptionStandsAtTheLowerEdgeWithoutAScrollBarWhileItFits)
+{
+  box_.setFrameStyle(QFrame::NoFrame);
+  box_.setProperty("role", QStringLiteral("caption"));
+  const int line = box_.fontMetrics().lineSpacing();
+  box_.resize(200, 3 * line + 5);
+  Show();
+  for (const auto& [text, lines] : {std::pair("one", 1), std::pair("one\ntwo", 2), std::pair("one\ntwo\nthree", 3)}) {
+    entry_.SetText(QString::fromLatin1(text));
+    EXPECT_EQ(box_.viewport()->height(), lines * line) << text;
+    EXPECT_EQ(box_.viewport()->geometry().bottom(), box_.height() - 1) << text;
+    EXPECT_FALSE(box_.verticalScrollBar()->isVisible()) << text;
+  }
+  entry_.SetText(QStringLiteral("one\ntwo\nthree\nfour"));
+  EXPECT_TRUE(QTest::qWaitFor([this] { return box_.verticalScrollBar()->isVisible(); }));
+}

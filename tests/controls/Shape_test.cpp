@@ -130,3 +130,17 @@ TEST_F(ShapeTest, MouseGoesThroughToWhatIsBelow)
   QTest::mouseClick(ground_.windowHandle(), Qt::LeftButton, {}, QPoint(50, 50));
   EXPECT_EQ(clicks.count(), 1);
 }
+
+TEST_F(ShapeTest, HairlineStaysThinHoweverThickItsPlaceIs)
+{
+  shape_.SetFigure(Shape::Hairline);
+  for (const int thickness : {1, 2, 4}) {
+    Resize(100, thickness);
+    EXPECT_EQ(At(50, 0), kFill) << thickness;
+    EXPECT_EQ(At(99, 0), kFill) << thickness;
+    EXPECT_EQ(At(50, thickness - 1), thickness == 1 ? kFill : kAround) << thickness;
+    Resize(thickness, 100);
+    EXPECT_EQ(At(0, 99), kFill) << thickness;
+    EXPECT_EQ(At(thickness - 1, 50), thickness == 1 ? kFill : kAround) << thickness;
+  }
+}

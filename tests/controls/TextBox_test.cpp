@@ -118,3 +118,37 @@ TEST_F(TextBoxTest, AnotherRecordsTextIsNotTakenBack)
   QTest::keyClick(&box_, Qt::Key_Z, Qt::ControlModifier);
   EXPECT_EQ(entry_.Text(), QStringLiteral("Bob"));
 }
+
+TEST_F(TextBoxTest, LongTextOfALockedBoxEndsInAnEllipsisUntilItTakesTheFocus)
+{
+  QWidget page;
+  page.resize(300, 60);
+  box_.setParent(&page);
+  box_.setGeometry(0, 0, 100, 24);
+  QLineEdit other(&page);
+  other.setGeometry(0, 30, 100, 24);
+  page.show();
+  page.activateWindow();
+  other.setFocus();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&page));
+  const auto painted = [this](const QString& text) {
+    entry_.SetText(text);
+    return box_.grab().toImage();
+  };
+  const QString text = QStringLiteral("a text that is much too long for its box");
+  const QImage open = painted(text);
+  entry_.SetLocked(true);
+  const QImage locked = painted(text);
+  EXPECT_NE(locked, open);
+  EXPECT_EQ(painted(text + QStringLiteral(" and goes on")), locked);
+  entry_.SetText(text);
+  QString cut = text;
+  while (!cut.isEmpty() && painted(cut + QChar(0x2026)) != locked) {
+    cut.chop(1);
+  }
+  EXPECT_FALSE(cut.isEmpty()) << "no beginning of the text with an ellipsis looks like it";
+  entry_.SetText(text);
+  box_.setFocus();
+  EXPECT_NE(box_.grab().toImage(), locked);
+  box_.setParent(nullptr);
+}
