@@ -26,6 +26,7 @@ QPalette Palette()
   palette.setColor(QPalette::Base, QColor(0xFF, 0xFD, 0xF7));
   palette.setColor(QPalette::Highlight, accent);
   palette.setColor(QPalette::HighlightedText, Qt::white);
+  palette.setColor(QPalette::PlaceholderText, QColor(0x7A, 0x68, 0x50));
   palette.setColor(QPalette::ToolTipBase, QColor(0xFF, 0xF7, 0xD3));
   palette.setColor(QPalette::ToolTipText, Qt::black);
   for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {

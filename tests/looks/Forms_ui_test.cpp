@@ -31,6 +31,9 @@ const std::set<QString> kMayStandOutside = {
     QStringLiteral("frmReminders.shpHLine_5"),
 };
 
+// The ornament of this page is the band behind the weekdays.
+const QString kBandOfTheCalendar = QStringLiteral("frmReminders.Shape15");
+
 // The longest texts that are set while the program runs.
 const std::multimap<QString, QString> kLaterTexts = {
     {QStringLiteral("frmTextNotice.lblExplain"),
@@ -130,6 +133,21 @@ private:
     }
     for (const auto& child : widget.children) {
       Look(*child, &widget);
+      if (child->name == QStringLiteral("Shape15") && FullName(*child) != kBandOfTheCalendar) {
+        LookAtOrnament(*child, widget);
+      }
+    }
+  }
+
+  // Panels lie on top of everything, and the theme picture shows while the ornament does not.
+  void LookAtOrnament(const Widget& ornament, const Widget& parent)
+  {
+    for (const auto& beside : parent.children) {
+      const bool isPanel = beside->Property("role") == QStringLiteral("panel");
+      const bool isInItsStead = beside->name == QStringLiteral("imgTheme");
+      if (beside.get() != &ornament && !isPanel && !isInItsStead && beside->place.intersects(ornament.place)) {
+        Fault(ornament.name, "stands behind another control");
+      }
     }
   }
 
@@ -361,6 +379,11 @@ TEST_F(FormsUiTest, FaultsAreFound)
       {Make("MultiLineTextBox", "txtNotes", place), {}, "txtNotes is not in the tab order"},
       {"<action name=\"action_2\"></action>", {}, "action_2 has a name that nobody chose"},
       {Make("QStackedWidget", "pages", {}), {}, ""},
+      {Make("Shape", "Shape15", place) + Make("PictureBox", "picPerson", Place(10, 50, 20, 20)), {}, ""},
+      {Make("Shape", "Shape15", place) + Make("PictureBox", "picPerson", Place(10, 35, 20, 20)),
+       {},
+       "Shape15 stands behind another control"},
+      {Make("Shape", "Shape15", place) + Make("GroupBox", "fraPrint", Place(10, 35, 20, 20) + Role("panel")), {}, ""},
   };
   for (const Case& c : cases) {
     EXPECT_EQ(FaultsOfForm(c.widgets, c.tabStops), c.faults) << c.widgets.toStdString();

@@ -8,7 +8,10 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QFile>
 #include <QImage>
+#include <QMap>
+#include <QRegularExpression>
 
 #include <cmath>
 
@@ -117,13 +120,45 @@ TEST_F(StyleTest, ColourThatIsSetIsThePaintedOne)
 
 TEST_F(StyleTest, EveryRoleIsReadableOnBothBackgrounds)
 {
-  for (const char* role : {"program", "motto", "title", "heading", "command", "sentence", ""}) {
+  for (const char* role : {"program", "motto", "title", "small-title", "heading", "caption", "details", "month",
+                           "choice", "weekday", "command", "sentence", ""}) {
     Label label;
     Play(label, role);
     for (const QColor& ground : {QColor(Qt::white), QColor(0xFF, 0xF9, 0xE9)}) {
       EXPECT_GE(Contrast(label.ForeColor(), ground), 4.5) << role << " on " << ground.name().toStdString();
     }
   }
+}
+
+TEST_F(StyleTest, TextIsReadableOnEveryGroundThatTheSheetGivesIt)
+{
+  QFile file(QStringLiteral(":/looks/quillmark.qss"));
+  ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+  const QString sheet = QString::fromUtf8(file.readAll());
+  static const QRegularExpression rules(QStringLiteral("([^{}]+)\\{([^}]*)\\}"));
+  static const QRegularExpression colors(
+      QStringLiteral("(?:^|[;\\s])(selection-)?(color|background(?:-color)?):\\s*([#\\w]+);"));
+  int pairs = 0;
+  for (const QRegularExpressionMatch& rule : rules.globalMatch(sheet)) {
+    QMap<QString, QColor> found;
+    for (const QRegularExpressionMatch& color : colors.globalMatch(rule.captured(2))) {
+      found[color.captured(1) + color.captured(2).left(5)] = QColor(color.captured(3));
+    }
+    for (const char* kind : {"", "selection-"}) {
+      const QColor text = found.value(QLatin1String(kind) + QStringLiteral("color"));
+      const QColor ground = found.value(QLatin1String(kind) + QStringLiteral("backg"));
+      if (text.isValid() && ground.isValid()) {
+        EXPECT_GE(Contrast(text, ground), 4.5) << rule.captured(1).trimmed().toStdString() << " " << kind;
+        ++pairs;
+      }
+    }
+  }
+  EXPECT_GE(pairs, 10);
+}
+
+TEST_F(StyleTest, HintInAnEmptyBoxIsReadable)
+{
+  EXPECT_GE(Contrast(qApp->palette().color(QPalette::PlaceholderText), Qt::white), 4.5);
 }
 
 TEST_F(StyleTest, DisabledCommandIsPaintedPaler)
