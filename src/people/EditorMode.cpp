@@ -49,16 +49,23 @@ void EditorMode::EnableBrowsing(bool enabled) const
   static_cast<Label&>(Control("lblValues")).SetBackColor(enabled ? QColor(Qt::white) : kPaleYellow);
 }
 
+// Over the commands that have no use until the panel is closed.
+void EditorMode::Open(const char* panel) const
+{
+  Control(panel).raise();
+  Control(panel).show();
+}
+
 void EditorMode::BeginAdding() const
 {
   EnableBrowsing(false);
-  Control("fraAdd").show();
+  Open("fraAdd");
 }
 
 void EditorMode::BeginEditing() const
 {
   EnableBrowsing(false);
-  Control("fraEdit").show();
+  Open("fraEdit");
 }
 
 void EditorMode::ReturnToBrowse() const

@@ -29,6 +29,7 @@ private:
   [[nodiscard]] bool Shows(const char* panel) const;
   [[nodiscard]] QWidget& Control(const char* name) const;
   void EnableBrowsing(bool enabled) const;
+  void Open(const char* panel) const;
 
   const Form& form_;
 };

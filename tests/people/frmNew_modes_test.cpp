@@ -92,6 +92,22 @@ TEST_F(EditorModes, TheTwoPanelsStandAtOnePlace)
   EXPECT_EQ(Control("fraAdd").geometry(), Control("fraEdit").geometry());
 }
 
+TEST_F(EditorModes, TheOpenPanelLiesOnTopAndLeavesThePictureOfTheThemeInSight)
+{
+  OpenWithThree();
+  for (const auto& [begin, name, cancel] :
+       {std::tuple(kAdd, "fraAdd", "lblOptions_1"), std::tuple(kEdit, "fraEdit", "lblOptions_4")}) {
+    Click(begin);
+    QWidget& panel = Control(name);
+    for (const QPoint& corner : {panel.rect().topLeft(), panel.rect().bottomRight(), panel.rect().center()}) {
+      QWidget* seen = Page().childAt(panel.mapTo(&Page(), corner));
+      EXPECT_TRUE(seen == &panel || panel.isAncestorOf(seen)) << name;
+    }
+    EXPECT_FALSE(panel.geometry().intersects(Page().PicturePlace())) << name;
+    Click(cancel);
+  }
+}
+
 TEST_F(EditorModes, TheHelpOpensAtQuickFillInEveryMode)
 {
   HelpOnScreen::Lay(folder.Path());
