@@ -3,18 +3,22 @@
 
 #pragma once
 
-#include <QDate>
 #include <QString>
 
 class Database;
 
-// Prints birthdays and anniversaries, each line with the margins of the program.
+// Prints birthdays and anniversaries, each line with the margins of the program. A text says
+// what keeps them from being printed; a printing that fails or is cancelled ends without a word.
 namespace OccasionPrinting {
 
-// Sets the font, and prints the date if `withDate`.
-void Begin(bool withDate, QDate today);
+struct Choices
+{
+  QString month;  // the one to print; empty for none
+  bool allMonths = false;
+  bool withYears = false;
+  bool withDate = false;
+};
 
-// A month under its name. Throws 13 for a date that is none.
-void PrintMonth(Database& database, const QString& month, bool withYears, QDate today);
+void Print(Database& database, const Choices& choices);
 
 }

@@ -16,15 +16,11 @@
 #include "occasions/OccasionPrinting.h"
 #include "people/Couples.h"
 #include "people/DateBoxes.h"
-#include "platform/Attempt.h"
 #include "platform/Clock.h"
 #include "platform/HelpViewer.h"
 #include "platform/Months.h"
 #include "platform/MsgBox.h"
 #include "platform/Numeric.h"
-#include "platform/PrintDialog.h"
-#include "platform/PrintProgress.h"
-#include "platform/Printer.h"
 #include "platform/Shell.h"
 #include "store/DBEngine.h"
 #include "ui_frmSpecial.h"
@@ -375,33 +371,8 @@ void frmSpecial::CloseCalendar()
 
 void frmSpecial::Print()
 {
-  if (database_->OpenRecordset(QStringLiteral("People"), Database::kTable)->Eof()) {
-    MsgBox(QStringLiteral("There are no records in the database"));
-    return;
-  }
-  if (!ui_->optPrint_0->isChecked() && !ui_->optPrint_1->isChecked()) {
-    MsgBox(QStringLiteral("You must select a printing option"));
-    return;
-  }
-  if (Attempt([this] { PrintMonths(); })) {
-    MsgBox(QStringLiteral("Printing completed"));
-  } else {
-    Attempt([] { Printer::EndDoc(); });
-  }
-}
-
-void frmSpecial::PrintMonths()
-{
-  ShowPrinter();
-  OccasionPrinting::Begin(ui_->chkDate->isChecked(), Clock::Today());
-  const bool all = ui_->optPrint_1->isChecked();
-  const QStringList months = all ? QStringList(kMonthNames.begin(), kMonthNames.end()) : QStringList(month_);
-  PrintProgress progress(static_cast<int>(months.size()));
-  for (const QString& month : months) {
-    OccasionPrinting::PrintMonth(*database_, month, ui_->chkAgeAnn->isChecked(), Clock::Today());
-    progress.Step();
-  }
-  Printer::EndDoc();
+  OccasionPrinting::Print(*database_, {ui_->optPrint_0->isChecked() ? month_ : QString(), ui_->optPrint_1->isChecked(),
+                                       ui_->chkAgeAnn->isChecked(), ui_->chkDate->isChecked()});
 }
 
 void frmSpecial::ClosePrint()

@@ -81,7 +81,6 @@ private:
   void OpenFamous();
   void Connect();
   void Print();
-  void PrintMonths();
   void ClosePrint();
   void CloseCalendar();
   void LeaveFor(const char* page);

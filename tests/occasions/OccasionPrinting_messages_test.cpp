@@ -2,6 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "OccasionPrintingTest.h"
+#include "people/DatabaseTaken.h"
+
+#include <optional>
 
 namespace {
 
@@ -114,4 +117,35 @@ TEST_F(OccasionPrintingMessages, NoneComesForAWeddingDayThatIsNone)
   dialogs.ExpectPdf(path);
   PrintSilently();
   EXPECT_EQ(AllLines(PrintedPages(path)), "May|Birthdays: May 9 - Ann Wood");
+}
+
+TEST_F(OccasionPrintingMessages, NoneComesForALockedDatabaseAndTheNextPrintingWorks)
+{
+  AddPerson("Ann", "May", "9");
+  OpenOn(kMay);
+  for (const QString& option : {kAllMonths, kSelectedMonth}) {
+    Tick(option);
+    const DatabaseTaken taken(folder.DatabasePath());
+    PrintSilently();
+    EXPECT_EQ(dialogs.Count(), 0U);
+    EXPECT_TRUE(IsTicked(option));
+  }
+  EXPECT_EQ(AllLines(Print()), kMayLines);
+}
+
+TEST_F(OccasionPrintingMessages, NoneComesForADatabaseLockedMeanwhileAndTheNextPrintingWorks)
+{
+  AddPerson("Ann", "May", "9");
+  OpenOn(kMay);
+  Tick(kSelectedMonth);
+  std::optional<DatabaseTaken> taken;
+  // Locked between the dialog and the printing.
+  dialogs.ExpectPdf(path, QPageSize::A4, [&](QPrintDialog& dialog) {
+    QObject::connect(&dialog, &QDialog::accepted, &dialog, [&] { taken.emplace(folder.DatabasePath()); });
+  });
+  PrintSilently();
+  ASSERT_TRUE(taken.has_value());
+  EXPECT_EQ(AllLines(PrintedPages(path)), "May");
+  taken.reset();
+  EXPECT_EQ(AllLines(Print()), kMayLines);
 }
