@@ -5,7 +5,7 @@
 
 #include "lookup/PersonValues.h"
 
-#include <algorithm>
+#include <initializer_list>
 
 namespace {
 
@@ -27,6 +27,14 @@ bool ShowOrHide(ResultBox& box, const OccasionDate& date)
   }
   box.Show(date.Text());
   return date.HasGap();
+}
+
+void Forget(std::initializer_list<ResultBox*> boxes)
+{
+  for (ResultBox* box : boxes) {
+    box->Show(QString());
+    box->Hide();
+  }
 }
 
 OccasionDate ReadDate(Recordset& person, const char* month, const char* day, const char* year)
@@ -80,10 +88,17 @@ void PersonResults::ShowNotes(Recordset& person)
 void PersonResults::ForgetContact()
 {
   block = {};
-  for (ResultBox* box : {&phone, &mobile, &business, &email, &address}) {
-    box->Show(QString());
-    box->Hide();
-  }
+  Forget({&phone, &mobile, &business, &email, &address});
+}
+
+void PersonResults::ForgetSpecial()
+{
+  Forget({&birthday, &anniversary});
+}
+
+void PersonResults::ForgetNotes()
+{
+  Forget({&notes});
 }
 
 void PersonResults::HideAll()

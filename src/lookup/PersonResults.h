@@ -41,8 +41,10 @@ struct PersonResults
   bool ShowSpecial(Recordset& person);
   void ShowNotes(Recordset& person);
 
-  // Empties and hides the contact boxes, so that nothing of another person stays in them.
+  // Empty and hide the boxes of a group, so that nothing of another person stays in them.
   void ForgetContact();
+  void ForgetSpecial();
+  void ForgetNotes();
 
   void HideAll();
 };

@@ -201,18 +201,22 @@ void frmQuillmark::chkInfo_Click()
 void frmQuillmark::chkPersonal_Click()
 {
   ui_->lblExplain->hide();
-  Attempt([this] {
-    FindSpecial();
-    TitleChange();
-  });
+  if (!Attempt([this] {
+        FindSpecial();
+        TitleChange();
+      })) {
+    results_.ForgetSpecial();
+  }
 }
 
 void frmQuillmark::chkNotes_Click()
 {
-  Attempt([this] {
-    FindNotes();
-    TitleChange();
-  });
+  if (!Attempt([this] {
+        FindNotes();
+        TitleChange();
+      })) {
+    results_.ForgetNotes();
+  }
 }
 
 void frmQuillmark::lblAll_Click(int index)

@@ -4,6 +4,7 @@
 #include "LookupTest.h"
 #include "people/DatabaseTaken.h"
 
+#include <algorithm>
 #include <map>
 
 namespace {
@@ -40,6 +41,23 @@ protected:
         {"chkPersonal_1", "June " + n},
         {"chkNotes", "notes " + n}};
     return texts.at(item.check);
+  }
+};
+
+// What is ticked here fails without a word.
+class LookupClickOnADateOrTheNotes : public LookupClick, public testing::WithParamInterface<const char*>
+{
+protected:
+  // Shows the item and hides it again, which keeps its text.
+  static void TickTwice()
+  {
+    Tick(GetParam());
+    Tick(GetParam());
+  }
+  static const LookupItem* Item()
+  {
+    return std::find_if(kItems.begin(), kItems.end(),
+                        [](const LookupItem& item) { return QLatin1String(item.check) == QLatin1String(GetParam()); });
   }
 };
 
@@ -304,6 +322,57 @@ TEST_F(LookupClick, ADeletedPersonsNameIsNotCopiedWithAnothersItems)
   }
   Click(kCopy);
   EXPECT_NE(Clipboard(), "Bob Wood\n\nphone 1");
+}
+
+TEST_P(LookupClickOnADateOrTheNotes, ShowsAndCopiesNothingOfAnotherForSomebodyDeletedMeanwhile)
+{
+  AddSomebody("Ann", 1);
+  const int bob = AddSomebody("Bob", 2);
+  Open();
+  ClickLine(0);
+  TickTwice();
+  ClickLine(1);
+  Remove(bob);
+  Tick(GetParam());
+  ExpectNothingShown();
+  Click(kCopy);
+  EXPECT_EQ(Clipboard(), "Bob Wood\n\n");
+}
+
+TEST_P(LookupClickOnADateOrTheNotes, ShowsAndCopiesNothingOfAnotherWhileTheDatabaseIsLocked)
+{
+  AddSomebody("Ann", 1);
+  AddSomebody("Bob", 2);
+  Open();
+  ClickLine(0);
+  Tick(GetParam());
+  Click(kFirstNameOrder);
+  ClickLine(1);
+  {
+    const DatabaseTaken taken(folder.DatabasePath());
+    Tick(GetParam());
+  }
+  ExpectNothingShown();
+  Click(kCopy);
+  EXPECT_EQ(Clipboard(), "Bob Wood\n\n");
+  ClickLine(1);
+  Click(kCopy);
+  EXPECT_EQ(Clipboard(), "Bob Wood\n\n" + ItemOf(*Item(), 2));
+}
+
+INSTANTIATE_TEST_SUITE_P(Items, LookupClickOnADateOrTheNotes,
+                         testing::Values("chkPersonal_0", "chkPersonal_1", "chkNotes"),
+                         [](const auto& check) { return std::string(check.param); });
+
+TEST_F(LookupClick, UntickingADateOfSomebodyDeletedMeanwhileHidesIt)
+{
+  const int ann = AddSomebody("Ann", 1);
+  Open();
+  ClickLine(0);
+  TickAll({"chkPersonal_0", "chkPersonal_1"});
+  Remove(ann);
+  Tick("chkPersonal_0");
+  EXPECT_EQ(Shown("txtBirthInfo"), "-");
 }
 
 TEST_F(LookupClick, TickingAContactOfSomebodyDeletedByAnotherProgramSaysSo)
