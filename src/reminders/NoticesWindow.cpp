@@ -14,11 +14,16 @@ namespace {
 
 using namespace modTextNotices;
 
-// A fresh window: start-up notices that still stand give way to it.
+// A fresh window: start-up notices that still stand give way to it, as if they were left, so
+// that the clips begin anew.
 frmTextNotice& Window()
 {
-  Forms::Unload(QStringLiteral("frmTextNotice"));
-  return static_cast<frmTextNotice&>(Forms::Load(QStringLiteral("frmTextNotice")));
+  const QString name = QStringLiteral("frmTextNotice");
+  if (Forms::Loaded(name) != nullptr) {
+    ClipIndex = 0;
+    Forms::Unload(name);
+  }
+  return static_cast<frmTextNotice&>(Forms::Load(name));
 }
 
 std::vector<ReminderKind> Hits()

@@ -103,6 +103,7 @@ TEST_F(CheckRemindersTest, NothingComingUpIsSaidWhenAsked)
     EXPECT_FALSE(Drive::Control(form, "lblOptions_1").isVisible());
     EXPECT_FALSE(Drive::Control(form, "lblOptions_2").isVisible());
     EXPECT_EQ(Caption(form, "lblOptions_0"), QStringLiteral("Close window"));
+    EXPECT_EQ(Drive::Control(form, "lblOptions_0").toolTip(), QStringLiteral("Close window"));
   });
   EXPECT_TRUE(seen);
   EXPECT_FALSE(frame.timer) << "no clip plays";
@@ -120,6 +121,7 @@ TEST_F(CheckRemindersTest, RemindersThatAreAllOffAreNotActiveWhateverElseIsSet)
       EXPECT_FALSE(Drive::Control(form, "lstNotices").isVisible());
       EXPECT_FALSE(Drive::Control(form, "lblOptions_1").isVisible());
       EXPECT_FALSE(Drive::Control(form, "lblOptions_2").isVisible());
+      EXPECT_EQ(Drive::Control(form, "lblOptions_0").toolTip(), QStringLiteral("Close window"));
     });
     EXPECT_TRUE(seen);
     EXPECT_EQ(LinesAtStart(), QStringList()) << "the start-up run is silent";
@@ -307,6 +309,39 @@ TEST_F(CheckRemindersTest, ACheckOverStandingStartUpNoticesBecomesModal)
   frame.state = WindowState::kNormal;
   EXPECT_TRUE(CheckAndSee([&](QWidget& form) { EXPECT_EQ(Lines(form, "lstNotices"), QStringList{birthdayLine}); }));
   EXPECT_EQ(Window(), nullptr);
+}
+
+TEST_F(CheckRemindersTest, ACheckOverStandingStartUpNoticesBeginsWithTheFirstClip)
+{
+  AddPerson("Ann", "Lee", "May", "5");
+  AddEvent("Dentist", "May", "2026-05-06");
+  CheckReminders(false);
+  ASSERT_NE(Window(), nullptr);
+  ASSERT_EQ(modTextNotices::ClipIndex, 1);
+  EXPECT_TRUE(CheckAndSee([&](QWidget& form) {
+    EXPECT_EQ(modTextNotices::ClipIndex, 1) << "the first clip has been started";
+    EXPECT_TRUE(Drive::Control(form, "imgNote_0").isVisible());
+    EXPECT_FALSE(Drive::Control(form, "imgNote_1").isVisible());
+  }));
+}
+
+TEST_F(CheckRemindersTest, ACheckWithoutHitsOverStandingNoticesEndsTheirClips)
+{
+  AddPerson("Ann", "Lee", "May", "5");
+  CheckReminders(false);
+  ASSERT_EQ(modTextNotices::ClipIndex, 1);
+  folder.Execute("DELETE FROM People");
+  EXPECT_TRUE(CheckAndSee([&](QWidget&) { EXPECT_EQ(modTextNotices::ClipIndex, 0); }));
+}
+
+TEST_F(CheckRemindersTest, AStartUpRunAfterAManualOneIsNoManualCheck)
+{
+  AddPerson("Ann", "Lee", "May", "5");
+  EXPECT_TRUE(CheckAndSee([](QWidget&) { EXPECT_TRUE(modTextNotices::ManualCheck); }));
+  CheckReminders(false);
+  ASSERT_NE(Window(), nullptr);
+  EXPECT_FALSE(modTextNotices::ManualCheck);
+  EXPECT_EQ(Caption(*Window(), "lblOptions_0"), QStringLiteral("View Quillmark"));
 }
 
 TEST_F(CheckRemindersTest, EachKindReadsItsOwnColumns)

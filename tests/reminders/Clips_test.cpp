@@ -104,6 +104,22 @@ TEST_F(ClipsTest, ClosingTheWindowSilencesAndTheNextCheckStartsWithTheFirstClip)
   EXPECT_EQ(MediaDevice::Mode(), QStringLiteral("playing"));
 }
 
+TEST_F(ClipsTest, EveryCommandOfTheStartUpNoticesSilencesAndGoesBackToTheFirstClip)
+{
+  WriteClips(60000);
+  AddPerson("Ann", "Lee", "May", "6");
+  for (const char* command : {"lblOptions_0", "lblOptions_1", "lblOptions_2"}) {
+    SCOPED_TRACE(command);
+    modTextNotices::CheckReminders(false);
+    ASSERT_EQ(ClipIndex, 1);
+    ASSERT_EQ(MediaDevice::Mode(), QStringLiteral("playing"));
+    Drive::Click(*Window(), command);
+    EXPECT_EQ(ClipIndex, 0);
+    EXPECT_EQ(MediaDevice::Mode(), QString());
+    EXPECT_EQ(Window(), nullptr);
+  }
+}
+
 TEST_F(ClipsTest, AMissingOrDamagedClipIsQuiet)
 {
   AddPerson("Ann", "Lee", "May", "6");

@@ -3,6 +3,9 @@
 
 #include "ReminderTest.h"
 
+#include "controls/Label.h"
+#include "looks/modThemes.h"
+
 namespace {
 
 class NoticesTest : public ReminderTest
@@ -16,6 +19,18 @@ protected:
 
   static QStringList Details(QWidget& form) { return Lines(form, QStringLiteral("lstMoreInfo")); }
   static QString Sentence(QWidget& form) { return Caption(form, QStringLiteral("lblExplain")); }
+
+  // The commands that are lit.
+  static QStringList Lit(const Form& form)
+  {
+    QStringList lit;
+    for (const QWidget* command : form.ArrayNamed(QStringLiteral("lblOptions")).widgets) {
+      if (static_cast<const Label*>(command)->BackStyle() == Label::kOpaque) {
+        lit.append(command->objectName());
+      }
+    }
+    return lit;
+  }
 };
 
 }
@@ -197,6 +212,38 @@ TEST_F(NoticesTest, ALineIsReachedByKeyboard)
   QTest::keyClick(&list, Qt::Key_Down);
   QTest::keyClick(&list, Qt::Key_Down);
   EXPECT_EQ(Details(window), QStringList{"In  3 days - Dentist"});
+}
+
+TEST_F(NoticesTest, CommandsLightUpUnderTheMouseOneAtATime)
+{
+  AddPerson("Ann", "Lee", "May", "6");
+  frmTextNotice& window = Open();
+  Drive::MoveOver(window);
+  EXPECT_EQ(Lit(window), QStringList());
+  for (const char* command : {"lblOptions_0", "lblOptions_1", "lblOptions_2"}) {
+    Drive::MoveOver(window, command);
+    EXPECT_EQ(Lit(window), QStringList{command});
+  }
+  Drive::MoveOver(window, "lstNotices");
+  EXPECT_EQ(Lit(window), QStringList());
+  Drive::MoveOver(window, "lblOptions_1");
+  Drive::MoveOver(window);
+  EXPECT_EQ(Lit(window), QStringList());
+}
+
+TEST_F(NoticesTest, TheWindowTakesTheBackgroundOfTheTheme)
+{
+  AddPerson("Ann", "Lee", "May", "6");
+  for (const auto& [theme, colour] : {std::pair{5, "#fff9e9"}, std::pair{4, "#ffffff"}, std::pair{1, "#ffffff"}}) {
+    Set(QStringLiteral("Theme=%1").arg(theme));
+    frmTextNotice& window = Open();
+    EXPECT_EQ(window.BackColor().name(), QLatin1String(colour)) << theme;
+    Drive::Click(window, "lblOptions_0");
+  }
+  frmTextNotice& standing = Open();
+  Set("Theme=5");
+  modThemes::ApplyTheme();
+  EXPECT_EQ(standing.BackColor().name(), QStringLiteral("#fff9e9")) << "a theme chosen while it stands";
 }
 
 TEST_F(NoticesTest, ViewQuillmarkBringsTheFrameBackAsItWasClosed)
