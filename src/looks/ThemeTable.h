@@ -13,7 +13,7 @@ struct ThemedForm
   std::array<std::string_view, 4> pictures;  // of the picture themes, by their number
   std::string_view pictureHolder;            // empty: the form's own picture
   std::string_view coloured;                 // controls that take the back colour, by blanks
-  std::string_view shown;                    // control shown with a picture theme
+  std::string_view shown;                    // takes it too, and is shown with a picture theme, before the picture
   std::string_view hidden;                   // control hidden with every theme
   std::string_view panel;                    // shape that is hollow with a picture theme
 };
@@ -23,14 +23,14 @@ inline constexpr std::array<ThemedForm, 7> kThemedForms = {{
     {"frmQuillmark",
      {"bicyclew.jpg", "irisw4.jpg", "wchellow3.jpg", "giraffew.jpg"},
      "picThemes",
-     "picThemes fraResults picPerson",
+     "fraResults picPerson",
      "picThemes",
      "picPerson",
      "shpNames"},
     {"frmSpecial",
      {"soccerw.jpg", "fruitw.jpg", "bongow.jpg", "maplew.jpg"},
      "picThemes",
-     "picThemes fraResults picPerson",
+     "fraResults picPerson",
      "picThemes",
      "picPerson",
      "shpMonth"},

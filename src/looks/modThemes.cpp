@@ -87,11 +87,12 @@ void PlacePicture(Form& form, const ThemedForm& themed, int theme)
 void ApplyToForm(Form& form, const ThemedForm& themed, int theme)
 {
   const bool hasPicture = theme < kFirstColourTheme;
-  PlacePicture(form, themed, theme);
-  ColourControls(form, ToText(themed.coloured), ColourOf(theme));
+  ColourControls(form, ToText(themed.shown), ColourOf(theme));
   if (hasPicture) {
     SetVisible(form, themed.shown, true);
   }
+  PlacePicture(form, themed, theme);
+  ColourControls(form, ToText(themed.coloured), ColourOf(theme));
   SetVisible(form, themed.hidden, false);
   if (auto* panel = qobject_cast<Shape*>(form.Control(ToText(themed.panel)))) {
     panel->SetFillStyle(hasPicture ? Shape::kHollow : Shape::kSolid);

@@ -8,6 +8,7 @@
 #include "controls/Label.h"
 #include "controls/PictureBox.h"
 #include "controls/Shape.h"
+#include "platform/LoadPicture.h"
 #include "support/MessageBoxScript.h"
 #include "support/ProgramFolder.h"
 
@@ -232,6 +233,18 @@ TEST_F(ThemesTest, EveryFormGetsThePictureOfTheTheme)
     for (const Themed& themed : kThemed) {
       EXPECT_EQ(PictureOf(*Forms::Loaded(QString::fromLatin1(themed.form))), SizeOf(themed.form, theme))
           << themed.form << ", theme " << theme;
+    }
+  }
+}
+
+TEST_F(ThemesTest, EveryPictureIsDeliveredAndLoads)
+{
+  for (const Themed& themed : kThemed) {
+    for (const char* name : themed.files) {
+      QPixmap picture;
+      EXPECT_NO_THROW(picture = LoadPicture(QStringLiteral(QUILLMARK_LAID_FOLDER "/themes/") + QLatin1String(name)))
+          << name;
+      EXPECT_FALSE(picture.isNull()) << name;
     }
   }
 }
@@ -506,6 +519,29 @@ TEST_F(ThemesTest, MissingPictureStopsInSilenceAndLeavesTheFormsNotReached)
   EXPECT_EQ(reached.BackColor(), kWhite);
   EXPECT_EQ(left.BackColor(), kBeige);
   EXPECT_EQ(noBoxes.Count(), 0U);
+}
+
+TEST_F(ThemesTest, MissingPictureStopsBehindTheColouredAndShownPlaceOfIt)
+{
+  for (const auto& [name, panel, file] :
+       {std::tuple{"frmQuillmark", "shpNames", "irisw4.jpg"}, std::tuple{"frmSpecial", "shpMonth", "fruitw.jpg"}}) {
+    SCOPED_TRACE(name);
+    const Form& form = Load(name);
+    Apply(kBeigeTheme);
+    Control(form, "picThemes").hide();
+    Control(form, "picPerson").show();
+    ASSERT_TRUE(QFile::remove(PictureFile(file)));
+    Apply(kGarden);
+    EXPECT_EQ(ColourOf(form, "picThemes"), kWhite);
+    EXPECT_TRUE(IsShown(form, "picThemes"));
+    EXPECT_EQ(PictureOf(form), QSize());
+    EXPECT_EQ(FillStyleOf(form, panel), Shape::kSolid);
+    EXPECT_EQ(ColourOf(form, "fraResults"), kBeige);
+    EXPECT_EQ(ColourOf(form, "picPerson"), kBeige);
+    EXPECT_TRUE(IsShown(form, "picPerson"));
+    EXPECT_TRUE(IsShown(form, "Shape15"));
+    Forms::Unload(QString::fromLatin1(name));
+  }
 }
 
 TEST_F(ThemesTest, FileThatIsNoPictureStopsInSilence)
