@@ -84,6 +84,18 @@ TEST_F(TypingLimitTest, BackspaceWorksAtAnyLength)
   });
 }
 
+TEST_F(TypingLimitTest, AFullBoxTakesNothingButBackspaceAlsoWhileAllOfItIsSelected)
+{
+  ForEach([](EntryBox& box, QWidget& keys) {
+    QTest::keyClicks(&keys, "abcde");
+    QTest::keyClick(&keys, Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClicks(&keys, "x ");
+    EXPECT_EQ(box.Text(), "abcde");
+    QTest::keyClick(&keys, Qt::Key_Backspace);
+    EXPECT_EQ(box.Text(), "");
+  });
+}
+
 TEST_F(TypingLimitTest, APastedTextPasses)
 {
   QApplication::clipboard()->setText("pasted text");
