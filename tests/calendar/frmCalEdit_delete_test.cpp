@@ -159,6 +159,21 @@ TEST_F(EventEditorDelete, WithTheTableEmptiedMeanwhileItDoesNothing)
   EXPECT_EQ(Everything(), before);
 }
 
+TEST_F(EventEditorDelete, OfAnEventThatIsGoneReadsTheListAfreshAndSaysDone)
+{
+  const int gone = Store("Dentist", "09:30:00");
+  Store("Vet", "14:00:00");
+  Open(kDay, Editor::kOpenDelete);
+  ClickLine("lstDelete", 0);
+  folder.Execute("DELETE FROM Reminders WHERE ID=?", {gone});
+  Click(Editor::kDelete);
+  EXPECT_EQ(Rows(), Lines({Row("Vet|14:00:00|-")}));
+  EXPECT_EQ(LinesOf("lstDelete"), "Vet");
+  EXPECT_EQ(List("lstDelete").ListIndex(), -1);
+  EXPECT_EQ(Cell(), " Vet 2:00pm");
+  EXPECT_EQ(Done(), "lblDone2");
+}
+
 TEST_F(EventEditorDelete, AnEventAddedMeanwhileElsewhereIsNotMistakenForIt)
 {
   Store("Dentist", "09:30:00");

@@ -115,6 +115,18 @@ TEST_F(RemindersEvents, DatesBesideTheMonthDoNotShowInTheirCells)
   EXPECT_EQ(ShownEvents(), (Events{{CellOf("2025-12-31"), " Eve "}}));
 }
 
+TEST_F(RemindersEvents, AnEventOnTheLastDayDoesNotShowInTheYearChosenNext)
+{
+  AddEvent("2026-08-31", "Last");
+  OpenOn(QDate(2026, 8, 10));
+  EXPECT_EQ(ShownEvents(), (Events{{CellOf("2026-08-31"), " Last "}}));
+  ChooseYear(2027);
+  ExpectMonth(2027, 8);
+  EXPECT_EQ(ShownEvents(), Events());
+  ChooseYear(2026);
+  EXPECT_EQ(ShownEvents(), (Events{{CellOf("2026-08-31"), " Last "}}));
+}
+
 TEST_F(RemindersEvents, BirthdaysAndAnniversariesDoNotShow)
 {
   folder.Execute("INSERT INTO People (FirstName, LastName, BirthMonth, BirthDate) VALUES ('Ann','Wood','May','12')");
