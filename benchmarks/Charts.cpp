@@ -1,121 +1,54 @@
 // SPDX-FileCopyrightText: 2026 The Quillmark authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// The chart page over 100,000 people: choosing a subject, with what the screen then shows,
-// against the bare query for its rows.
+// The chart page: choosing a subject, with what the screen then shows, against the bare query
+// for its rows.
 
-#include "BareFrame.h"
+#include "BareReading.h"
 #include "Household.h"
 #include "Measure.h"
+#include "OpenPage.h"
 
-#include "charts/frmCharts.h"
-#include "controls/Forms.h"
-#include "looks/Style.h"
-#include "platform/App.h"
-#include "platform/Application.h"
-
-#include <QCoreApplication>
 #include <QRadioButton>
-#include <QTemporaryDir>
-
-#include <sqlite3.h>
-#include <stdexcept>
 
 namespace {
 
-constexpr int kPeople = 100'000;
-constexpr int kRuns = 21;
-constexpr double kMust = 3.0;
+constexpr int kManyRuns = 21;
+constexpr auto kQuery = "SELECT City, count(City) FROM People WHERE City IS NOT NULL GROUP BY City";
 
-// A program's folder with so many people in so many cities.
-class People
+Figures Choice(int people, int cities, const char* kind)
 {
-public:
-  explicit People(int cities)
-  {
-    App::SetPath(folder_.path());
-    MakeHousehold(File(), kPeople);
-    Execute("UPDATE People SET City = 'City ' || (PeopleID * 7919 % " + std::to_string(cities) + ")");
-  }
-
-  // Opens the file, runs the query and reads its rows, as bare calls do it.
-  [[nodiscard]] double SecondsForBareQuery() const
-  {
-    return MedianOf(
-        [&] {
-          return SecondsFor(
-              [&] { Execute("SELECT City, count(City) FROM People WHERE City IS NOT NULL GROUP BY City"); });
-        },
-        kRuns);
-  }
-
-private:
-  [[nodiscard]] QString File() const { return folder_.filePath(QStringLiteral("quillmark2002.mdb")); }
-
-  void Execute(const std::string& sql) const
-  {
-    const auto read = [](void*, int, char**, char**) { return 0; };
-    sqlite3* connection = nullptr;
-    sqlite3_open(File().toUtf8().constData(), &connection);
-    if (sqlite3_exec(connection, sql.c_str(), read, nullptr, nullptr) != SQLITE_OK) {
-      throw std::runtime_error(sqlite3_errmsg(connection));
-    }
-    sqlite3_close(connection);
-  }
-
-  QTemporaryDir folder_;
-};
-
-// With what the screen shows after it.
-double SecondsPerChoice(const char* kind)
-{
-  Form& page = Forms::Load(QStringLiteral("frmCharts"));
-  page.Show();
+  OpenPage page("frmCharts", [&](const QString& path) { MakeTowns(path, people, cities); });
+  page.Open();
   QCoreApplication::processEvents();
   const auto click = [&](const char* button) {
-    static_cast<QRadioButton*>(page.Control(QLatin1String(button)))->click();
+    page.Get<QRadioButton>(button).click();
     QCoreApplication::processEvents();
-    page.repaint();
+    page.Page().repaint();
   };
   click(kind);
-  const double seconds = MedianOf([&] { return SecondsFor([&] { click("optChoices_0"); }); }, kRuns);
-  page.Unload();
-  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-  return seconds;
+  return ByTurns([&] { return SecondsFor([&] { click("optChoices_0"); }); },
+                 [&] { return SecondsFor([&] { ScanBare(page.DatabasePath(), kQuery); }); }, kManyRuns);
 }
 
-void Measure(benchmark::State& state, const char* kind)
+Line ChartLine(const std::string& name, int cities, const char* kind)
 {
-  const People people(static_cast<int>(state.range(0)));
-  for (auto _ : state) {
-    ReportRatio(state, SecondsPerChoice(kind), people.SecondsForBareQuery(), kMust);
-  }
+  return {"charts: " + name, "the bare query of the chart", 3.0,
+          [=](int people) { return Choice(people, cities, kind); }};
 }
 
-void Bars(benchmark::State& state)
+}
+
+Lines ChartLines()
 {
-  Measure(state, "optOptions_0");
-}
-
-void Circles(benchmark::State& state)
-{
-  Measure(state, "optOptions_1");
-}
-
-}
-
-// By the number of cities.
-BENCHMARK(Bars)->Arg(50)->Arg(1000)->Arg(100'000)->Iterations(1);
-BENCHMARK(Circles)->Arg(50)->Arg(1000)->Arg(100'000)->Iterations(1);
-
-int main(int argc, char** argv)
-{
-  qputenv("QT_QPA_PLATFORM", "offscreen");
-  Application application(argc, argv);
-  Style::Apply(application);
-  const BareFrame frame;
-  Forms::Register(QStringLiteral("frmCharts"), [] { return new frmCharts; });
-  benchmark::Initialize(&argc, argv);
-  benchmark::RunSpecifiedBenchmarks();
-  return 0;
+  constexpr auto kBars = "optOptions_0";
+  constexpr auto kCircles = "optOptions_1";
+  return {
+      ChartLine("bars, people in 50 cities", 50, kBars),
+      ChartLine("bars, people in 1,000 cities", 1000, kBars),
+      ChartLine("bars, each person in another city", 100'000, kBars),
+      ChartLine("circles, people in 50 cities", 50, kCircles),
+      ChartLine("circles, people in 1,000 cities", 1000, kCircles),
+      ChartLine("circles, each person in another city", 100'000, kCircles),
+  };
 }

@@ -7,7 +7,6 @@
 #include <QFile>
 #include <QLocale>
 
-#include <algorithm>
 #include <sqlite3.h>
 #include <stdexcept>
 
@@ -62,6 +61,35 @@ QByteArray InsertEvents(int events, int year)
       .toUtf8();
 }
 
+// The name of a month for the number that an expression gives: 0 for March, 9 for December.
+QByteArray LaterMonth(const QByteArray& number)
+{
+  return "(SELECT name FROM later WHERE m = " + number + ")";
+}
+
+QByteArray MarryPeople(int people)
+{
+  return "CREATE TEMP TABLE later AS WITH names(m, name) AS (VALUES (0,'March'),(1,'April'),(2,'May'),(3,'June'),"
+         "(4,'July'),(5,'August'),(6,'September'),(7,'October'),(8,'November'),(9,'December')) SELECT * FROM names;"
+         "UPDATE People SET BirthMonth = CASE WHEN PeopleID <= 17 THEN 'January' WHEN PeopleID <= 34 THEN 'February' "
+         "ELSE " +
+         LaterMonth("PeopleID % 10") +
+         " END;"
+         "INSERT INTO Ann (Spouse1ID, Spouse1First, Spouse1Last, Spouse2ID, Spouse2First, Spouse2Last, AnnMonth, "
+         "AnnDate,"
+         " AnnYear) SELECT w.PeopleID, w.FirstName, w.LastName, h.PeopleID, h.FirstName, h.LastName,"
+         " CASE WHEN w.PeopleID < 17 THEN 'January' WHEN w.PeopleID < 33 THEN 'February' ELSE " +
+         LaterMonth("w.PeopleID / 2 % 10") +
+         " END, 1 + w.PeopleID % 28, '1980' FROM People w JOIN People h ON h.PeopleID = w.PeopleID + 1"
+         " WHERE w.PeopleID % 2 = 1 AND w.PeopleID < " +
+         QByteArray::number(people / 2) +
+         ";"
+         "UPDATE People SET AnnMonth = NULL, AnnDate = NULL, AnnYear = NULL;"
+         "UPDATE People SET (AnnMonth, AnnDate, AnnYear) = (SELECT AnnMonth, AnnDate, AnnYear FROM Ann"
+         " WHERE Spouse1ID = PeopleID OR Spouse2ID = PeopleID) WHERE PeopleID <= " +
+         QByteArray::number(people / 2);
+}
+
 void Make(const QString& path, const QByteArray& rows)
 {
   QFile::remove(path);
@@ -82,13 +110,18 @@ void MakeHousehold(const QString& path, int people)
   Make(path, InsertPeople(people));
 }
 
+void MakeFamilies(const QString& path, int people)
+{
+  Make(path, InsertPeople(people) + ";" + MarryPeople(people));
+}
+
+void MakeTowns(const QString& path, int people, int cities)
+{
+  Make(path, InsertPeople(people) + "; UPDATE People SET City = 'City ' || (PeopleID * 7919 % " +
+                 QByteArray::number(cities) + ")");
+}
+
 void MakeCalendar(const QString& path, int events, int year)
 {
   Make(path, InsertEvents(events, year));
-}
-
-double Median(std::vector<double> values)
-{
-  std::sort(values.begin(), values.end());
-  return values[values.size() / 2];
 }

@@ -5,8 +5,6 @@
 
 #include <QString>
 
-#include <vector>
-
 // A database with as many people as wanted, none of whom has a birthday or an
 // anniversary near today.
 void MakeHousehold(const QString& path, int people);
@@ -15,5 +13,10 @@ void MakeHousehold(const QString& path, int people);
 // of each month of `year`, the others in the years before and after.
 void MakeCalendar(const QString& path, int events, int year);
 
-// The middle one of the values.
-[[nodiscard]] double Median(std::vector<double> values);
+// People, a quarter of whom are married to another quarter. January and February hold seventeen
+// birthdays and eight weddings each, whatever the number of people; the others lie in the other
+// months, as many in each.
+void MakeFamilies(const QString& path, int people);
+
+// People in so many cities, evenly.
+void MakeTowns(const QString& path, int people, int cities);

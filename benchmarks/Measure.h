@@ -3,11 +3,12 @@
 
 #pragma once
 
-#include "Household.h"
+#include "Lines.h"
 
-#include <benchmark/benchmark.h>
+#include <algorithm>
 #include <chrono>
-#include <vector>
+
+inline constexpr int kRuns = 15;
 
 template <typename Work>
 double SecondsFor(Work&& work)
@@ -17,9 +18,16 @@ double SecondsFor(Work&& work)
   return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
 }
 
+// The middle one of the values.
+inline double Median(std::vector<double> values)
+{
+  std::sort(values.begin(), values.end());
+  return values[values.size() / 2];
+}
+
 // The middle one of so many runs of what gives seconds.
 template <typename Measure>
-double MedianOf(Measure&& measure, int runs = 15)
+double MedianOf(Measure&& measure, int runs = kRuns)
 {
   std::vector<double> seconds;
   for (int run = 0; run < runs; ++run) {
@@ -28,11 +36,15 @@ double MedianOf(Measure&& measure, int runs = 15)
   return Median(seconds);
 }
 
-// Prints what was measured and what it was measured against, both in seconds, and their ratio.
-inline void ReportRatio(benchmark::State& state, double measured, double against, double must)
+// Both by turns, so that what else the machine does meets both.
+template <typename Measure, typename Limit>
+Figures ByTurns(Measure&& measure, Limit&& limit, int runs = kRuns)
 {
-  state.counters["ms"] = measured * 1000;
-  state.counters["against_ms"] = against * 1000;
-  state.counters["ratio"] = measured / against;
-  state.counters["must"] = must;
+  std::vector<double> measured;
+  std::vector<double> limits;
+  for (int run = 0; run < runs; ++run) {
+    limits.push_back(limit());
+    measured.push_back(measure());
+  }
+  return {Median(measured), Median(limits)};
 }
