@@ -6,6 +6,7 @@
 #include <QString>
 #include <QVariant>
 
+#include <optional>
 #include <vector>
 
 class Database;
@@ -47,6 +48,10 @@ struct Anniversary
 // The couples married in the month, in the same order. The store finds the first one
 // without regard to case; the first row whose month is not exactly this one ends them.
 [[nodiscard]] std::vector<Anniversary> AnniversariesOf(Database& database, const QString& month);
+
+// One of them by its key, whatever its month; nothing if it is gone. No other row is read.
+[[nodiscard]] std::optional<Birthday> BirthdayOf(Database& database, int peopleID);
+[[nodiscard]] std::optional<Anniversary> AnniversaryOf(Database& database, int annID);
 
 // "May  9 - Ann Lee", with two blanks before a day below 10, with one before any other,
 // before a day that is no number and without a day.

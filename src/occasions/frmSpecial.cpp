@@ -25,8 +25,6 @@
 #include "store/DBEngine.h"
 #include "ui_frmSpecial.h"
 
-#include <algorithm>
-
 namespace {
 
 constexpr int kMain = 0;
@@ -239,16 +237,15 @@ void frmSpecial::calCalendar_Change()
 // The rows may have changed since the list was filled; who is gone leaves no sentence.
 void frmSpecial::lstBirthdays_Click()
 {
-  const auto index = static_cast<std::size_t>(ui_->lstBirthdays->ListIndex());
-  const std::vector<Occasions::Birthday> birthdays = Occasions::BirthdaysOf(*database_, month_);
-  if (index >= birthdays_.keys.size() || birthdays.empty()) {
+  const auto key = ChosenKey(birthdays_);
+  if (!key) {
     return;
   }
-  const auto found = std::find_if(birthdays.begin(), birthdays.end(), [&](const Occasions::Birthday& birthday) {
-    return birthday.peopleID == birthdays_.keys[index];
-  });
-  if (found == birthdays.end()) {
-    birthdays_.details.SetText(kNoSentences);
+  const auto found = Occasions::BirthdayOf(*database_, *key);
+  if (!found || found->month != month_) {
+    if (!Occasions::BirthdaysOf(*database_, month_).empty()) {
+      birthdays_.details.SetText(kNoSentences);
+    }
     return;
   }
   modID::SelectedPersonID = found->peopleID;
@@ -262,16 +259,15 @@ void frmSpecial::lstBirthdays_Click()
 
 void frmSpecial::lstAnn_Click()
 {
-  const auto index = static_cast<std::size_t>(ui_->lstAnn->ListIndex());
-  const std::vector<Occasions::Anniversary> couples = Occasions::AnniversariesOf(*database_, month_);
-  if (index >= anniversaries_.keys.size() || couples.empty()) {
+  const auto key = ChosenKey(anniversaries_);
+  if (!key) {
     return;
   }
-  const auto found = std::find_if(couples.begin(), couples.end(), [&](const Occasions::Anniversary& couple) {
-    return couple.annID == anniversaries_.keys[index];
-  });
-  if (found == couples.end()) {
-    anniversaries_.details.SetText(kNoSentences);
+  const auto found = Occasions::AnniversaryOf(*database_, *key);
+  if (!found || found->month != month_) {
+    if (!Occasions::AnniversariesOf(*database_, month_).empty()) {
+      anniversaries_.details.SetText(kNoSentences);
+    }
     return;
   }
   picture_.Show(QStringLiteral("/AnnPics/%1.bmp").arg(found->annID));
@@ -282,6 +278,13 @@ void frmSpecial::lstAnn_Click()
   modID::CoupleSpouse1ID = found->spouse1ID;
   modID::CoupleSpouse2ID = found->spouse2ID;
   ShowDetails(anniversaries_, OccasionSentences::Of(*found, ui_->calCalendar->Value().year(), Clock::Today()));
+}
+
+// A line that says that there is nobody has no key.
+std::optional<int> frmSpecial::ChosenKey(const Side& side)
+{
+  const auto index = static_cast<std::size_t>(side.list.ListIndex());
+  return index < side.keys.size() ? std::optional(side.keys[index]) : std::nullopt;
 }
 
 void frmSpecial::ShowUnknown(Side& side)

@@ -73,6 +73,7 @@ private:
 
   // The details.
   void ShowDetails(Side& side, const OccasionSentences::Details& details);
+  [[nodiscard]] static std::optional<int> ChosenKey(const Side& side);
   void ShowUnknown(Side& side);
   void MoveCalendar(const OccasionSentences::Details& details);
 

@@ -91,16 +91,13 @@ void ForgetWedding(Recordset& people, int personID)
 
 void ConvertBlanks(Database& database)
 {
-  const auto dates = database.OpenRecordset(Queries::kCoupleDates, Database::kDynaset);
-  for (; !dates->Eof(); dates->MoveNext()) {
-    for (const char* column : kDateColumns) {
-      Field& part = dates->Fields(QLatin1String(column));
-      const QVariant value = part.Value();
-      if (!value.isNull() && value.toString().isEmpty()) {
-        dates->Edit();
-        part.SetValue(QVariant());
-        dates->Update();
-      }
+  const QVariant blank = QStringLiteral("");
+  for (const char* column : kDateColumns) {
+    const auto dates = database.OpenRange(Queries::kCoupleDates, {QLatin1String(column), blank, blank});
+    for (; !dates->Eof(); dates->MoveNext()) {
+      dates->Edit();
+      dates->Fields(QLatin1String(column)).SetValue(QVariant());
+      dates->Update();
     }
   }
 }

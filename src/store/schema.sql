@@ -40,12 +40,15 @@ CREATE TABLE Ann (
   Spouse2ID INTEGER,
   Spouse2First TEXT,
   Spouse2Last TEXT,
-  AnnMonth TEXT,
+  AnnMonth TEXT COLLATE NOCASE,
   AnnDate TEXT,
   AnnYear TEXT
 );
 CREATE UNIQUE INDEX Spouse1ID ON Ann (Spouse1ID);
 CREATE UNIQUE INDEX Spouse2ID ON Ann (Spouse2ID);
+CREATE INDEX AnnMonth ON Ann (AnnMonth);
+CREATE INDEX AnnDate ON Ann (AnnDate);
+CREATE INDEX AnnYear ON Ann (AnnYear);
 
 CREATE TABLE Reminders (
   ID INTEGER PRIMARY KEY AUTOINCREMENT,

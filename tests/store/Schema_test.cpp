@@ -97,6 +97,9 @@ TEST(DeliveredDatabase, HasItsIndexesAndNoOthers)
       folder.Rows("SELECT m.name, l.name, i.name, l.\"unique\" FROM sqlite_master m, pragma_index_list(m.name) l, "
                   "pragma_index_info(l.name) i WHERE m.type = 'table' AND l.origin = 'c' ORDER BY 1, 2"),
       std::vector<QVariantList>({
+          {"Ann", "AnnDate", "AnnDate", 0},
+          {"Ann", "AnnMonth", "AnnMonth", 0},
+          {"Ann", "AnnYear", "AnnYear", 0},
           {"Ann", "Spouse1ID", "Spouse1ID", 1},
           {"Ann", "Spouse2ID", "Spouse2ID", 1},
           {"People", "BirthMonth", "BirthMonth", 0},
