@@ -8,6 +8,7 @@
 #include "platform/App.h"
 #include "platform/Application.h"
 #include "platform/Command.h"
+#include "platform/Privacy.h"
 #include "shell/StartUp.h"
 #include "shell/mdiQuillmark.h"
 
@@ -31,8 +32,10 @@ public:
 
 int main(int argc, char** argv)
 {
+  Privacy::KeepToOwner();
   Application application(argc, argv);
   App::SetPath(QApplication::arguments().value(1));
+  Privacy::CloseToOthers(App::Path());
   PaintWatcher watcher;
   application.installEventFilter(&watcher);
   Style::Apply(application);

@@ -21,18 +21,53 @@ constexpr quint16 kIcon = 1;
 constexpr quint16 kCursor = 2;
 constexpr int kCursorSize = 32;
 
-QByteArray DrawPng(QSvgRenderer& renderer, int size)
+QImage Draw(QSvgRenderer& renderer, int size)
 {
   QImage image(size, size, QImage::Format_ARGB32_Premultiplied);
   image.fill(Qt::transparent);
   QPainter painter(&image);
   renderer.render(&painter);
-  painter.end();
+  return image;
+}
+
+QByteArray Png(const QImage& image)
+{
   QByteArray png;
   QBuffer buffer(&png);
   buffer.open(QIODevice::WriteOnly);
   image.save(&buffer, "PNG");
   return png;
+}
+
+// A bitmap without a file header, from the bottom up, whose height counts the mask below it.
+// All of the mask is empty: the colours say what is seen through.
+QByteArray Bitmap(const QImage& image)
+{
+  constexpr quint32 kHeaderSize = 40;
+  const QImage colours = image.convertToFormat(QImage::Format_ARGB32);
+  const int side = colours.width();
+  QByteArray bitmap;
+  QDataStream stream(&bitmap, QIODevice::WriteOnly);
+  stream.setByteOrder(QDataStream::LittleEndian);
+  stream << kHeaderSize << qint32(side) << qint32(2 * side) << quint16(1) << quint16(32);
+  for (int unused = 0; unused < 6; ++unused) {
+    stream << quint32(0);
+  }
+  for (int y = side - 1; y >= 0; --y) {
+    for (int x = 0; x < side; ++x) {
+      stream << colours.pixel(x, y);
+    }
+  }
+  bitmap.append(QByteArray(((side + 31) / 32 * 4) * side, '\0'));
+  return bitmap;
+}
+
+// Small pictures are bitmaps, which are read at once; a large one would be so in bulk.
+QByteArray DrawPicture(QSvgRenderer& renderer, int size)
+{
+  constexpr int kLargestBitmap = 64;
+  const QImage image = Draw(renderer, size);
+  return size <= kLargestBitmap ? Bitmap(image) : Png(image);
 }
 
 // A directory of the pictures, then the pictures. A cursor's entry holds its hot spot
@@ -82,7 +117,7 @@ int main(int argc, char** argv)
   const QList<int> sizes = isCursor ? QList<int>{kCursorSize} : QList<int>{16, 24, 32, 48, 64, 128, 256};
   QList<QByteArray> pictures;
   for (const int size : sizes) {
-    pictures.append(DrawPng(renderer, size));
+    pictures.append(DrawPicture(renderer, size));
   }
   QFile file(arguments[2]);
   const QByteArray packed = Pack(isCursor ? kCursor : kIcon, sizes, pictures, hotSpot);

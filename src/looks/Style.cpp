@@ -3,6 +3,8 @@
 
 #include "looks/Style.h"
 
+#include "looks/BaseStyle.h"
+
 #include <QApplication>
 #include <QFile>
 #include <QFont>
@@ -40,7 +42,7 @@ QPalette Palette()
 void Apply(QApplication& application)
 {
   LoadResources();
-  QApplication::setStyle(QStringLiteral("Fusion"));
+  QApplication::setStyle(new BaseStyle);
   QApplication::setPalette(Palette());
   QApplication::setFont(QFont(QStringLiteral("Arial"), 10));
   QFile sheet(QStringLiteral(":/looks/quillmark.qss"));

@@ -23,6 +23,22 @@ void LimitSize(QImageReader& reader)
   }
 }
 
+QPixmap Read(const QString& path, bool byContent)
+{
+  QImageReader reader(path);
+  reader.setDecideFormatFromContent(byContent);
+  reader.setAutoTransform(true);
+  LimitSize(reader);
+  return QPixmap::fromImageReader(&reader);
+}
+
+// By its name first: only the reader of that kind is loaded then.
+QPixmap Read(const QString& path)
+{
+  const QPixmap picture = Read(path, false);
+  return picture.isNull() ? Read(path, true) : picture;
+}
+
 }
 
 QPixmap LoadPicture(const QString& path)
@@ -34,11 +50,7 @@ QPixmap LoadPicture(const QString& path)
     RaiseError(ErrorNumber::kInvalidPicture);
   }
   QImageReader::setAllocationLimit(kMemoryLimit);
-  QImageReader reader(path);
-  reader.setDecideFormatFromContent(true);
-  reader.setAutoTransform(true);
-  LimitSize(reader);
-  QPixmap picture = QPixmap::fromImageReader(&reader);
+  QPixmap picture = Read(path);
   if (picture.isNull()) {
     RaiseError(ErrorNumber::kInvalidPicture);
   }
