@@ -25,6 +25,8 @@
 #include <QCloseEvent>
 #include <QThread>
 
+#include <algorithm>
+
 namespace {
 
 constexpr int kFirstYear = 1900;
@@ -223,13 +225,48 @@ void mdiQuillmark::SetTimerEnabled(bool enabled)
   }
 }
 
+// What the desktop puts around the frame is part of its size on a screen that has no room
+// for it besides.
+QSize mdiQuillmark::CountedDecoration() const
+{
+  const QSize around = frameGeometry().size() - size();
+  const QSize needed = QSize(PixelsFromTwips(kSmallestWidth + kGap), PixelsFromTwips(kSmallestHeight + kGap)) + around;
+  const QSize screen(PixelsFromTwips(Screen::Width()), PixelsFromTwips(Screen::Height()));
+  return needed.boundedTo(screen) == needed ? QSize(0, 0) : around;
+}
+
+QSize mdiQuillmark::Allowed(const QSize& size) const
+{
+  const QSize around = CountedDecoration();
+  const QSize whole = size + around;
+  return QSize(AtLeast(whole.width(), kSmallestWidth), AtLeast(whole.height(), kSmallestHeight)) - around;
+}
+
 void mdiQuillmark::resizeEvent(QResizeEvent* event)
 {
   QMainWindow::resizeEvent(event);
-  const QSize allowed(AtLeast(width(), kSmallestWidth), AtLeast(height(), kSmallestHeight));
+  const QSize allowed = Allowed(size());
   if (State() == WindowState::kNormal && allowed != size()) {
     resize(allowed);
   }
+}
+
+// The desktop tells its decoration once the frame stands on the screen.
+void mdiQuillmark::moveEvent(QMoveEvent* event)
+{
+  QMainWindow::moveEvent(event);
+  FitToSmallScreen();
+}
+
+void mdiQuillmark::FitToSmallScreen()
+{
+  if (fitted_ || !isVisible() || State() != WindowState::kNormal || CountedDecoration().isNull()) {
+    return;
+  }
+  fitted_ = true;
+  resize(Allowed({}));
+  move(std::max(0, PixelsFromTwips(Screen::CentredLeft(TwipsFromPixels(frameGeometry().width())))),
+       std::max(0, PixelsFromTwips(Screen::CentredTop(TwipsFromPixels(frameGeometry().height())))));
 }
 
 // A page that was sized while the frame was minimised is fitted when that comes back.

@@ -48,6 +48,7 @@ public:
 protected:
   void changeEvent(QEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
+  void moveEvent(QMoveEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
 
 private:
@@ -57,6 +58,9 @@ private:
   void WarnOfResolution() const;
   void RestoreState();
   void Centre();
+  [[nodiscard]] QSize CountedDecoration() const;
+  [[nodiscard]] QSize Allowed(const QSize& size) const;
+  void FitToSmallScreen();
   bool QueryUnload();
   void MustBeLoaded();
   void EnableCompaction();
@@ -70,5 +74,6 @@ private:
   bool compactionAllowed_ = true;
   bool guarded_ = false;  // the guards have spoken, also if the load failed behind them
   bool loaded_ = false;
+  bool fitted_ = false;  // to a screen that is too small for it with its decoration
   bool ended_ = false;
 };

@@ -180,6 +180,20 @@ TEST_F(ShellTest, AFrameThatIsTooSmallSnapsJustAboveTheThreshold)
   EXPECT_EQ(frame->size(), QSize(767, 606));
 }
 
+TEST_F(ShellTest, OnASmallScreenTheDecorationIsPartOfTheSize)
+{
+  Screen::Pretend(QRect(0, 0, 800, 600));
+  Start();
+  frame->move(1, 1);
+  ASSERT_NE(frame->frameGeometry().size(), frame->size());
+  EXPECT_TRUE(QTest::qWaitFor([this] { return frame->frameGeometry().size() == QSize(767, 606); }));
+  EXPECT_EQ(frame->frameGeometry().top(), 0);
+  frame->resize(600, 500);
+  EXPECT_EQ(frame->frameGeometry().size(), QSize(767, 606));
+  frame->move(20, 10);
+  EXPECT_EQ(frame->pos(), QPoint(20, 10));
+}
+
 TEST_F(ShellTest, TheFrameIsCentredOnTheScreenUnderItsIconAndTitle)
 {
   Screen::Pretend(QRect(0, 0, 1600, 1200));
