@@ -14,8 +14,6 @@ namespace {
 
 const QString kTotal = QStringLiteral("Total");
 
-using Counts = std::map<QString, int>;
-
 void Write(Recordset& totals, int total)
 {
   totals.Edit();
@@ -30,6 +28,45 @@ void SetToZero(Recordset& totals)
   }
 }
 
+// The totals while they are counted.
+class Counts
+{
+public:
+  Counts(Recordset& totals, QString column) : totals_(totals), column_(std::move(column)) { totals_.MoveFirst(); }
+
+  // One more of this key. A key without a row of its own is counted into the row that is
+  // current: that of the key before, or the first.
+  void Add(const QString& key)
+  {
+    if (key != key_) {
+      key_ = key;
+      totals_.FindFirst(QStringLiteral("%1 ='%2'").arg(column_, key));
+      count_ = &counts_[key];
+      total_ = &totalsByRow_[totals_.AbsolutePosition()];
+    }
+    *total_ = ++*count_;
+  }
+
+  void WriteTotals()
+  {
+    for (totals_.MoveFirst(); !totals_.Eof(); totals_.MoveNext()) {
+      const auto total = totalsByRow_.find(totals_.AbsolutePosition());
+      if (total != totalsByRow_.end()) {
+        Write(totals_, total->second);
+      }
+    }
+  }
+
+private:
+  Recordset& totals_;
+  QString column_;
+  std::map<QString, int> counts_;
+  std::map<int, int> totalsByRow_;
+  QString key_;
+  int* count_ = nullptr;
+  int* total_ = nullptr;
+};
+
 void Count(Recordset& counted, const QString& column, QString (*keyOf)(const QVariant&), Counts& counts)
 {
   Field& field = counted.Fields(column);
@@ -41,17 +78,8 @@ void Count(Recordset& counted, const QString& column, QString (*keyOf)(const QVa
       key = keyOf(value);
     }
     if (!key.isEmpty()) {
-      ++counts[key];
+      counts.Add(key);
     }
-  }
-}
-
-void WriteCounts(Recordset& totals, const QString& column, const Counts& counts)
-{
-  totals.MoveFirst();
-  for (const auto& [key, count] : counts) {
-    totals.FindFirst(QStringLiteral("%1 ='%2'").arg(column, key));
-    Write(totals, count);
   }
 }
 
@@ -63,15 +91,15 @@ void Run(const Source& totals, const Source& counted, QString (*keyOf)(const QVa
   const auto totalRows = database.OpenRecordset(totals.query, Database::kDynaset);
   const auto rows = database.OpenRecordset(counted.query, Database::kDynaset);
   SetToZero(*totalRows);
-  Counts counts;
+  Counts counts(*totalRows, totals.column);
   try {
     Count(*rows, counted.column, keyOf, counts);
   } catch (const RuntimeError&) {
-    WriteCounts(*totalRows, totals.column, counts);
+    counts.WriteTotals();
     Command::Settle();
     throw;
   }
-  WriteCounts(*totalRows, totals.column, counts);
+  counts.WriteTotals();
 }
 
 }

@@ -17,7 +17,9 @@ struct Source
 };
 
 // Sets the Total of every row of `totals` to the number of rows of `counted` whose
-// column gives the total's key by `keyOf`; rows that give the empty text count nowhere.
+// column gives the total's key by `keyOf`; rows that give the empty text count nowhere. A
+// key that has lost its row writes its number into the row of the key counted before, or
+// into the first one.
 // What `keyOf` throws ends the counting, and what was counted before it is kept for good.
 void Run(const Source& totals, const Source& counted, QString (*keyOf)(const QVariant& value));
 

@@ -309,3 +309,28 @@ TEST_F(Tallies, AYearBeyond32BitsStopsTheCounting)
   EXPECT_EQ(ErrorOf([] { modConvert::TallyAges(); }), ErrorNumber::kOverflow);
   EXPECT_EQ(Ages(), kNoAges);
 }
+
+TEST_F(Tallies, AMonthWithoutARowIsCountedIntoTheRowThatIsCurrent)
+{
+  for (const char* key : {"Mar", "Apr"}) {
+    folder.Execute("DELETE FROM TotalBirthdays WHERE \"Month\"=?", {key});
+  }
+  for (const char* month : {"February", "March", "March", "March", "April", "April", "August"}) {
+    AddBirthMonth(month);
+  }
+  modConvert::TallyBirthdays();
+  EXPECT_EQ(Birthdays(), "Jan=2 Feb=3 May=0 Jun=0 Jul=0 Aug=1 Sep=0 Oct=0 Nov=0 Dec=0");
+  AddBirthMonth("January");
+  modConvert::TallyBirthdays();
+  EXPECT_EQ(Birthdays(), "Jan=3 Feb=1 May=0 Jun=0 Jul=0 Aug=1 Sep=0 Oct=0 Nov=0 Dec=0");
+}
+
+TEST_F(Tallies, AnAgeWithoutARowIsCountedIntoTheRowOfTheNextOlder)
+{
+  folder.Execute("DELETE FROM TotalAge WHERE Age='80-89'");
+  for (const char* year : {"1930", "1931", "1940", "1941", "1942", "1950"}) {
+    AddBirthYear(year);
+  }
+  modConvert::TallyAges();
+  EXPECT_EQ(Ages(), "<10=0 10-19=0 20-29=0 30-39=0 40-49=0 50-59=0 60-69=0 70-79=1 >89=3");
+}
