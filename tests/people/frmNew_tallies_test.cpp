@@ -146,6 +146,7 @@ TEST_F(TalliesOfTheEditor, NoLongerCountTheCoupleOfADeletedPerson)
 TEST_F(TalliesOfTheEditor, AYearThatIsNoNumberStopsTheCountOfAges)
 {
   AddPerson("Ann", "Adams", {{"BirthMonth", "May"}, {"BirthYear", "19x0"}});
+  folder.Execute("INSERT INTO Ann (AnnMonth) VALUES ('June')");
   Open();
   try {
     Leave();
@@ -153,5 +154,25 @@ TEST_F(TalliesOfTheEditor, AYearThatIsNoNumberStopsTheCountOfAges)
   } catch (const RuntimeError& error) {
     EXPECT_EQ(error.Number(), ErrorNumber::kTypeMismatch);
   }
+  EXPECT_EQ(Anniversaries(), "Jun 1");
+  EXPECT_EQ(Birthdays(), "May 1");
   EXPECT_EQ(Ages(), "");
+}
+
+TEST_F(TalliesOfTheEditor, AreWrittenOneAfterTheOther)
+{
+  folder.Execute("CREATE TABLE Written (Tally TEXT)");
+  for (const QString tally : {"TotalBirthdays", "TotalAnn", "TotalAge"}) {
+    folder.Execute("CREATE TRIGGER Write" + tally + " AFTER UPDATE ON " + tally +
+                   " BEGIN INSERT INTO Written VALUES ('" + tally + "'); END");
+  }
+  Open();
+  Leave();
+  QStringList order;
+  for (const QVariantList& row : folder.Rows("SELECT Tally FROM Written ORDER BY rowid")) {
+    if (order.isEmpty() || order.last() != row[0].toString()) {
+      order.append(row[0].toString());
+    }
+  }
+  EXPECT_EQ(order.join(' ').toStdString(), "TotalAnn TotalBirthdays TotalAge");
 }
