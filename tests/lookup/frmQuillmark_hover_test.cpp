@@ -19,17 +19,7 @@ protected:
   static void MoveOver(const QString& name = {}) { Drive::MoveOver(Page(), name); }
 
   // The labels that are lit, by name.
-  static std::string Lit()
-  {
-    QStringList names;
-    for (const QWidget* control : Page().Controls()) {
-      const auto* label = qobject_cast<const Label*>(control);
-      if (label != nullptr && label->BackStyle() == Label::kOpaque) {
-        names.append(label->objectName());
-      }
-    }
-    return names.join(' ').toStdString();
-  }
+  static std::string Lit() { return OpaqueLabels().join(' ').toStdString(); }
   static std::string TextColour(const QString& name) { return LabelOf(name).ForeColor().name().toStdString(); }
 };
 

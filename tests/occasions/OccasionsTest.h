@@ -107,6 +107,20 @@ protected:
   {
     return folder.File(QStringLiteral("/AnnPics/%1.bmp").arg(couple));
   }
+  // The garden theme, with its picture for this page.
+  void UseGarden() const
+  {
+    folder.Execute("UPDATE Options SET Theme=1");
+    Hands::SavePicture(folder.File("/themes/fruitw.jpg"), Qt::green, {24, 30});
+  }
+  static PictureBox& Decoration() { return dynamic_cast<PictureBox&>(Control("picThemes")); }
+  static void ExpectDecoration()
+  {
+    EXPECT_FALSE(IsShown("picPerson"));
+    EXPECT_EQ(Picture().Handle(), 0);
+    EXPECT_TRUE(IsShown("picThemes"));
+    EXPECT_EQ(Decoration().Picture().size(), QSize(24, 30));
+  }
   // The colour in the middle of the picture on show; empty without one.
   static std::string ShownColour() { return Hands::MiddleColour(Picture().Picture().toImage()); }
 };

@@ -11,22 +11,6 @@ namespace {
 
 class SpecialDetails : public OccasionsPageTest
 {
-protected:
-  PictureBox& Decoration() { return dynamic_cast<PictureBox&>(Control("picThemes")); }
-
-  // The garden theme, with its picture for this page.
-  void UseGarden() const
-  {
-    folder.Execute("UPDATE Options SET Theme=1");
-    Hands::SavePicture(folder.File("/themes/fruitw.jpg"), Qt::green, {24, 30});
-  }
-  void ExpectDecoration()
-  {
-    EXPECT_FALSE(IsShown("picPerson"));
-    EXPECT_EQ(Picture().Handle(), 0);
-    EXPECT_TRUE(IsShown("picThemes"));
-    EXPECT_EQ(Decoration().Picture().size(), QSize(24, 30));
-  }
 };
 
 }

@@ -349,6 +349,20 @@ TEST_F(SpecialPanels, ConnectWantsAMonthAndADay)
   EXPECT_TRUE(catcher.Taken.isEmpty());
 }
 
+TEST_F(SpecialPanels, ConnectTakesAMonthThatIsCutForNone)
+{
+  AddressCatcher catcher;
+  Open();
+  Click("lblOptions_5");
+  Press("cboMonth", Qt::Key_End);
+  Press("cboMonth", Qt::Key_Backspace);
+  ASSERT_EQ(Combo("cboMonth").Text().toStdString(), "Ma");
+  boxes.Expect("You have not entered a month");
+  Click("lblOptions_8");
+  EXPECT_EQ(boxes.Count(), 1U);
+  EXPECT_TRUE(catcher.Taken.isEmpty());
+}
+
 TEST_F(SpecialPanels, KeysAreThrownAway)
 {
   Open();

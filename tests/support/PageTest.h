@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "controls/Label.h"
 #include "controls/modID.h"
 #include "looks/Style.h"
 #include "looks/modToolTips.h"
@@ -83,6 +84,18 @@ protected:
   static std::string Caption(const QString& label)
   {
     return dynamic_cast<QLabel&>(Control(label)).text().toStdString();
+  }
+  // The labels that show their own back colour, by name.
+  static QStringList OpaqueLabels()
+  {
+    QStringList names;
+    for (const QWidget* control : Page().Controls()) {
+      const auto* label = qobject_cast<const Label*>(control);
+      if (label != nullptr && label->BackStyle() == Label::kOpaque) {
+        names.append(label->objectName());
+      }
+    }
+    return names;
   }
 
   static void Click(const QString& name) { Drive::Click(Page(), name); }
