@@ -180,6 +180,7 @@ TEST_F(RecordPrintingOfEverybody, CanBeCancelledInTheMiddle)
   EXPECT_GT(cancelledAt, 0);
   EXPECT_LT(cancelledAt, kPeople);
   EXPECT_EQ(boxes.Count(), 0U);
+  EXPECT_EQ(modID::SelectedPersonID, 0);
   EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
   EXPECT_TRUE(IsShown("fraPrint"));
   {

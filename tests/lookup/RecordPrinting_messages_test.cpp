@@ -108,6 +108,7 @@ TEST_F(RecordPrintingMessages, NoneComesForACancelledDialogAndTheNextPrintingWor
   QFile::remove(path);
   Tick("optPrint_1");
   Cancel();
+  EXPECT_EQ(modID::SelectedPersonID, 0);
   EXPECT_TRUE(IsTicked("optPrint_1") && IsTicked("chkDate") && IsTicked("chkInfo_0"));
   EXPECT_EQ(Lines(Print()), "November 05, 2026|Anna Wood|Home phone: 555-1000|Bess Wood|Home phone: unavailable");
 }
