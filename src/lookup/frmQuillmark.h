@@ -79,7 +79,7 @@ private:
   ControlArray<Label> lblNames_;
   ControlArray<Label> lblAll_;
   ControlArray<QRadioButton> optData_;
-  QTimer tmrTimer_;
+  QTimer tmrTimer_{this};
   PersonResults results_;
   ResultTitles titles_;
   NameList names_;

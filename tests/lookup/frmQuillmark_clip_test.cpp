@@ -4,6 +4,8 @@
 #include "LookupTest.h"
 
 #include <QElapsedTimer>
+#include <QSignalSpy>
+#include <QTimer>
 
 namespace {
 
@@ -159,13 +161,19 @@ TEST_F(LookupClip, DoneStandsForAboutASecond)
   Open();
   Tick("chkInfo_0");
   ClickLine(0);
+  const auto* timer = Page().findChild<QTimer*>("tmrTimer");
+  ASSERT_NE(timer, nullptr);
+  EXPECT_EQ(timer->interval(), 500);
   for (int i = 0; i < 2; ++i) {
+    const QSignalSpy ticks(timer, &QTimer::timeout);
     QElapsedTimer clock;
     clock.start();
     Click(kCopy);
     ASSERT_TRUE(IsShown("lblDone"));
     ASSERT_TRUE(DoneGoes());
     EXPECT_GE(clock.elapsed(), 900);
+    EXPECT_EQ(ticks.count(), 2);
+    EXPECT_FALSE(timer->isActive());
   }
 }
 
