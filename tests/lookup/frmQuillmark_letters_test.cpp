@@ -3,8 +3,10 @@
 
 #include "LookupTest.h"
 
+#include "lookup/LetterDocuments.h"
 #include "lookup/Letters.h"
 #include "platform/Clock.h"
+#include "support/AddressCatcher.h"
 #include "support/OwnDesktop.h"
 
 namespace {
@@ -22,7 +24,7 @@ protected:
     Clock::StopOn(QDate(2026, 3, 5));
     desktop_.LayEntry("editor.desktop", "editor %f");
     desktop_.LayEntry("rich.desktop", "rich %f");
-    desktop_.LayEntry("writer.desktop", "soffice --writer %U");
+    desktop_.LayEntry("writer.desktop", "soffice --writer %f");
     desktop_.Lay("config/mimeapps.list",
                  "[Default Applications]\ntext/plain=editor.desktop\napplication/rtf=rich.desktop\n"
                  "application/vnd.oasis.opendocument.text=writer.desktop\n");
@@ -45,6 +47,15 @@ protected:
   {
     Click(button);
     return desktop_.AwaitStart(++starts_);
+  }
+
+  // The letters of all three programs, from the text in the editors and in the word processor.
+  void ExpectLetters(const QString& inEditors, const QString& inWordProcessor)
+  {
+    EXPECT_EQ(Letter("lblOptions_6").content.toStdString(), inEditors.toStdString());
+    EXPECT_EQ(Letter("lblOptions_7").content.toStdString(),
+              LetterDocuments::OpenDocument(inWordProcessor).toStdString());
+    EXPECT_EQ(Letter("lblOptions_8").content.toStdString(), LetterDocuments::RichText(inEditors).toStdString());
   }
 
   OwnDesktop desktop_;
@@ -99,7 +110,7 @@ TEST_F(LookupLetters, BeginWithTheDateAndTheSalutation)
   AddAnn();
   Open();
   ClickLine(0);
-  EXPECT_EQ(Letter("lblOptions_6").content.toStdString(), "March 05, 2026\n\n\nDear Ann:");
+  ExpectLetters("March 05, 2026\n\n\nDear Ann:", "March 05, 2026\n\nDear Ann:");
 }
 
 TEST_F(LookupLetters, CarryTheWholeAddressWhateverIsTicked)
@@ -110,8 +121,20 @@ TEST_F(LookupLetters, CarryTheWholeAddressWhateverIsTicked)
   ClickLine(0);
   Click("lblOptions_2");
   Tick("chkAddress");
-  EXPECT_EQ(Letter("lblOptions_6").content.toStdString(),
-            "March 05, 2026\n\n\nAnn Wood\n1 High Street\nFlat 2\nLeeds, Yorkshire\nEngland, LS1 1AA\n\nDear Ann:");
+  const QString person = "Ann Wood\n1 High Street\nFlat 2\nLeeds, Yorkshire\nEngland, LS1 1AA\n\nDear Ann:";
+  ExpectLetters("March 05, 2026\n\n\n" + person, "March 05, 2026\n\n" + person);
+}
+
+TEST_F(LookupLetters, LeaveOutALoneSecondAddressOnlyInTheWordProcessor)
+{
+  LayPrograms();
+  AddPerson("Bob", "Marsh", {{"SecondAddress", "Flat 2"}, {"City", "Leeds"}});
+  Open();
+  ClickLine(0);
+  Click("lblOptions_2");
+  Tick("chkAddress");
+  ExpectLetters("March 05, 2026\n\n\nBob Marsh\nFlat 2\nLeeds\n\nDear Bob:",
+                "March 05, 2026\n\nBob Marsh\n\nLeeds\n\n\nDear Bob:");
 }
 
 TEST_F(LookupLetters, WithoutAProgramSayWhichIsMissing)
@@ -125,6 +148,21 @@ TEST_F(LookupLetters, WithoutAProgramSayWhichIsMissing)
   Click("lblOptions_7");
   boxes.Expect("Error: Microsoft WordPad does not appear to be on your system.");
   Click("lblOptions_8");
+}
+
+TEST_F(LookupLetters, AMessageGoesToTheAddressOfTheSelectedPerson)
+{
+  AddressCatcher catcher("mailto");
+  AddAnn();
+  AddPerson("Bob", "Marsh", {{"Email", "bob@example.com"}});
+  Open();
+  for (const int line : {1, 0}) {
+    ClickLine(line);
+    Click(kEmail);
+  }
+  ASSERT_EQ(catcher.Taken.size(), 2);
+  EXPECT_EQ(catcher.Taken[0].toEncoded().toStdString(), "mailto:%20bob@example.com");
+  EXPECT_EQ(catcher.Taken[1].toEncoded().toStdString(), "mailto:%20ann@example.com");
 }
 
 TEST_F(LookupLetters, WithoutAnAddressThereIsNoMessage)
