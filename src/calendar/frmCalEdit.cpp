@@ -22,7 +22,6 @@
 
 #include <QKeyEvent>
 #include <QShortcut>
-#include <QWindow>
 
 #include <algorithm>
 
@@ -138,8 +137,6 @@ void frmCalEdit::keyPressEvent(QKeyEvent* event)
 void frmCalEdit::StandOverCalendar()
 {
   if (const QWidget* below = QApplication::activeWindow()) {
-    winId();
-    windowHandle()->setTransientParent(below->windowHandle());
     move(below->frameGeometry().center() - rect().center());
   }
 }

@@ -9,10 +9,12 @@
 #include "platform/RuntimeError.h"
 #include "platform/Twips.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QEventLoop>
 #include <QPainter>
 #include <QPointer>
+#include <QWindow>
 
 #include <algorithm>
 #include <utility>
@@ -86,6 +88,14 @@ void Form::Open(Qt::WindowModality modality)
   activateWindow();
 }
 
+// Put away alone, a dialog would leave the window below without a sign of what it waits for.
+void Form::StandOver(const QWidget* below)
+{
+  setWindowFlag(Qt::Dialog);
+  winId();
+  windowHandle()->setTransientParent(below == nullptr ? nullptr : below->windowHandle());
+}
+
 void Form::Show()
 {
   Open(Qt::NonModal);
@@ -95,6 +105,7 @@ void Form::ShowModal()
 {
   const Command::Pause pause;
   hide();
+  StandOver(QApplication::activeWindow());
   Open(Qt::ApplicationModal);
   QEventLoop loop;
   modalLoop_ = &loop;

@@ -32,7 +32,7 @@ public:
   [[nodiscard]] QString Name() const { return objectName(); }
 
   void Show();
-  void ShowModal();    // comes back when the form is hidden or unloaded
+  void ShowModal();    // a dialog of the active window; comes back when it is hidden or unloaded
   void ShowTopmost();  // not modal, above all other windows
   void Hide();
 
@@ -90,6 +90,7 @@ private:
 
   void Load();
   void Open(Qt::WindowModality modality);
+  void StandOver(const QWidget* below);
 
   Kind kind_;
   QColor backColor_ = Qt::white;

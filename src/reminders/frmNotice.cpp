@@ -3,6 +3,7 @@
 
 #include "reminders/frmNotice.h"
 
+#include "controls/FixedDialog.h"
 #include "looks/modMouseMove.h"
 #include "looks/modThemes.h"
 #include "looks/modToolTips.h"
@@ -51,9 +52,7 @@ frmNotice::frmNotice()
                  ui_->lblTextAudioCal}}}},
       tmrTimerPreview_(this)
 {
-  setFixedSize(size());
-  setWindowFlags(Qt::Window | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint |
-                 Qt::CustomizeWindowHint);
+  MakeFixedDialog(*this);
   lblOptions_.Collect(*this, QStringLiteral("lblOptions"));
   chkTextAudio_.Collect(*this, QStringLiteral("chkTextAudio"));
   tmrTimerPreview_.setObjectName(QStringLiteral("tmrTimerPreview"));

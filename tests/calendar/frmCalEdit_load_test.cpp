@@ -222,6 +222,7 @@ TEST_F(EventEditorLoad, IsModalOverTheCalendar)
   Drive::WhenShown("frmCalEdit", [&](QWidget& form) {
     ++shown;
     EXPECT_TRUE(form.isModal());
+    EXPECT_EQ(form.windowHandle()->transientParent(), calendar.Window().windowHandle());
     EXPECT_EQ(Heading(), "May 12, 2026");
     Click(Editor::kOpenAdd);
     FillAdd("Dentist", "9:30 pm");

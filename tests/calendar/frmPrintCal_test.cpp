@@ -171,6 +171,29 @@ TEST_F(PrintCalTest, ItsCheckBoxTakesTheColourOfABackgroundTheme)
   }
 }
 
+TEST_F(PrintCalTest, ItsCommandsLightUpUnderTheMouseOneAtATime)
+{
+  Open();
+  InDialog([&] {
+    Dialog().move(frame.window.frameGeometry().topRight());
+    const auto isLit = [](const QString& name) {
+      return dynamic_cast<Label&>(Drive::Control(Dialog(), name)).BackStyle() == Label::kOpaque;
+    };
+    Drive::MoveOver(Dialog());
+    EXPECT_FALSE(isLit(kPrint) || isLit(kCancel));
+    Drive::MoveOver(Dialog(), kPrint);
+    EXPECT_TRUE(isLit(kPrint));
+    Drive::MoveOver(Dialog(), kCancel);
+    EXPECT_TRUE(isLit(kCancel));
+    EXPECT_FALSE(isLit(kPrint));
+    Drive::MoveOver(Dialog(), kList);
+    EXPECT_FALSE(isLit(kCancel));
+    Drive::MoveOver(Dialog(), kPrint);
+    Drive::MoveOver(Dialog());
+    EXPECT_FALSE(isLit(kPrint));
+  });
+}
+
 TEST_F(PrintCalTest, AsksForAFormatBeforeAnythingElse)
 {
   const PrintDialogScript none;
@@ -313,6 +336,43 @@ TEST_F(PrintCalTest, WrapsDetailsAtTheWidthOfTheirBoxOnThePage)
   const auto wide = linesAt(400);
   EXPECT_GT(wide, 1);
   EXPECT_GT(narrow, 3 * wide - 3);
+}
+
+TEST_F(PrintCalTest, HidesTheDetailsThatStandOnThePage)
+{
+  AddEvent("2026-05-12", "Dentist");
+  Open();
+  ClickEvent(16);
+  InDialog([&] {
+    boxes.Expect(kNoFormat);
+    Press(kPrint);
+    EXPECT_TRUE(DetailsShown()) << "nothing is printed yet";
+    Choose(kPortrait);
+    PrintAndCancel();
+    EXPECT_FALSE(DetailsShown());
+  });
+}
+
+TEST_F(PrintCalTest, WritesTheDatesOfTheCellsBackBeforeItAsksForThePrinter)
+{
+  AddEvent("2026-05-12", "Dentist");
+  Open();
+  Page().resize(900, 700);
+  const QString date = QStringLiteral("2026-05-12");
+  ASSERT_NE(modResize::TagOf(Cell(16)).toStdString(), date.toStdString()) << "the resize has put its proportions there";
+  InDialog([&] {
+    Choose(kPortrait);
+    PrintAndCancel();
+    for (int cell = 0; cell < kCellCount - 1; ++cell) {
+      EXPECT_EQ(modResize::TagOf(Cell(cell)).toStdString(), modCalVariables::CalCellDates[cell].toStdString()) << cell;
+    }
+    EXPECT_EQ(modResize::TagOf(Cell(16)).toStdString(), date.toStdString());
+    modResize::SetTag(Cell(16), QStringLiteral("another"));
+    Choose(kList);
+    PrintPdf();
+    EXPECT_EQ(modResize::TagOf(Cell(16)).toStdString(), date.toStdString());
+  });
+  EXPECT_TRUE(Has(Printed(), "Details 12 Dentist")) << Printed();
 }
 
 TEST_F(PrintCalTest, CancellingThePrintDialogPrintsNothingAndTheNextPrintingWorks)

@@ -17,6 +17,7 @@
 #include <QLineEdit>
 #include <QPointer>
 #include <QTextEdit>
+#include <QWindow>
 
 namespace {
 
@@ -335,6 +336,38 @@ TEST_F(FormTest, ModalWindowCanBeShownAgain)
     });
     page.ShowModal();
     EXPECT_TRUE(shown);
+  }
+}
+
+TEST_F(FormTest, ModalWindowIsADialogOfTheActiveOneAndKeepsItsPlace)
+{
+  QWidget below;
+  below.show();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&below));
+  Page& page = Window();
+  page.move(140, 90);
+  bool seen = false;
+  Drive::WhenShown(QStringLiteral("frmNotice"), [&](QWidget& shown) {
+    seen = true;
+    EXPECT_EQ(shown.windowType(), Qt::Dialog);
+    EXPECT_EQ(shown.windowHandle()->transientParent(), below.windowHandle());
+    EXPECT_EQ(shown.pos(), QPoint(140, 90));
+    page.Hide();
+  });
+  page.ShowModal();
+  EXPECT_TRUE(seen);
+}
+
+TEST_F(FormTest, WindowThatIsNotModalStandsAlone)
+{
+  QWidget below;
+  below.show();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&below));
+  Page& page = Window();
+  for (const auto show : {&Form::Show, &Form::ShowTopmost}) {
+    (page.*show)();
+    EXPECT_EQ(page.windowType(), Qt::Window);
+    EXPECT_EQ(page.windowHandle()->transientParent(), nullptr);
   }
 }
 
