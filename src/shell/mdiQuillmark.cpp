@@ -9,6 +9,7 @@
 #include "platform/App.h"
 #include "platform/Attempt.h"
 #include "platform/Clock.h"
+#include "platform/Command.h"
 #include "platform/HelpViewer.h"
 #include "platform/LoadPicture.h"
 #include "platform/MediaDevice.h"
@@ -318,6 +319,7 @@ bool mdiQuillmark::QueryUnload()
   HelpViewer::Quit();
   MediaDevice::Close();
   WriteState(*options);
+  Command::Settle();  // what fails as the pages go does not take it back
   return true;
 }
 

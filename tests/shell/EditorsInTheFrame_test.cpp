@@ -3,6 +3,9 @@
 
 #include "ShellTest.h"
 
+#include "platform/Command.h"
+#include "support/ErrorOf.h"
+
 namespace {
 
 const QString kFinishFirst = QStringLiteral("Please finish adding or editing your record before exiting");
@@ -43,6 +46,15 @@ TEST_F(EditorsInTheFrame, AnOpenEditRefusesEveryWayOut)
     Drive::Click(Editor(), cancel);
   }
   EXPECT_EQ(boxes.Count(), 8U);
+}
+
+TEST_F(EditorsInTheFrame, ATallyThatFailsAtTheCloseLeavesTheWindowStateWritten)
+{
+  OpenEditor();
+  folder.Execute("DROP TABLE TotalAge");
+  frame->SetState(WindowState::kMaximised);
+  EXPECT_EQ(ErrorOf([&] { Command::Run([&] { frame->Unload(); }); }), 3078);
+  EXPECT_EQ(Option("WindowState"), 1);
 }
 
 TEST_F(EditorsInTheFrame, ASwitchOfTheTipsTakesEffectOnTheOpenEditorAtOnce)
