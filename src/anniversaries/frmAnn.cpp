@@ -191,23 +191,13 @@ void frmAnn::UpdateCouple()
           QStringLiteral("Both these people are already married. Please delete the original couples and start over"));
       return;
     case CoupleRecords::Outcome::kWritten:
-      StorePicture();
+      picture_.StoreOrDelete();
       ShowDone();
       break;
     case CoupleRecords::Outcome::kFailed:
       break;
   }
   Attempt([this] { RefreshCouples(); });
-}
-
-// What the page shows becomes the couple's picture; an empty one leaves it without.
-void frmAnn::StorePicture()
-{
-  picture_.KeepPictureFile = false;
-  picture_.FileDelete();
-  if (picture_.HasPicture()) {
-    picture_.StorePicture();
-  }
 }
 
 void frmAnn::RefreshCouples()

@@ -56,7 +56,6 @@ private:
   void CancelEntry();
 
   [[nodiscard]] QString RefuseEntry() const;
-  void StorePicture();
   void RefreshCouples();
   void ShowDone();
 

@@ -126,6 +126,16 @@ void RecordPicture::StorePicture()
   });
 }
 
+void RecordPicture::StoreOrDelete()
+{
+  KeepPictureFile = false;
+  if (HasPicture()) {
+    StorePicture();
+  } else {
+    FileDelete();
+  }
+}
+
 void RecordPicture::Choose(bool stored)
 {
   try {

@@ -33,6 +33,10 @@ public:
   void FileDelete(int key);
   void StorePicture();
 
+  // Makes the file what the image shows. The old one goes only when a new one takes its
+  // place, or when there is none to store.
+  void StoreOrDelete();
+
   // As LoadImage and HideAndFit, with the whole box out of sight meanwhile, from empty.
   void ShowInBox();
 

@@ -224,10 +224,7 @@ void frmNew::FinishEdit()
   const bool written = records_->Change(boxes_);
   picture_.KeepPictureFile = false;
   if (written) {
-    picture_.FileDelete();
-  }
-  if (written && picture_.HasPicture()) {
-    picture_.StorePicture();
+    picture_.StoreOrDelete();
   }
   RefreshAddressList();
   boxes_.LockFields();

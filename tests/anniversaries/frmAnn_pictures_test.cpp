@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "AnniversariesTest.h"
+#include "support/FullDisk.h"
 
 #include <QFile>
 
@@ -106,9 +107,11 @@ TEST_F(CouplePictures, UpdateStoresTheChosenPictureAsABitmap)
 {
   AddHousehold();
   OpenForTheCouple();
+  EXPECT_FALSE(IsShown("picFinal"));
   Add(Source("mine.jpg", {40, 20}));
   Update();
   EXPECT_TRUE(IsDone());
+  EXPECT_FALSE(IsShown("picFinal"));
   EXPECT_EQ(PictureFiles(), QStringList({"1.bmp"}));
   QFile file(PictureFile(couple));
   ASSERT_TRUE(file.open(QIODevice::ReadOnly));
@@ -422,4 +425,22 @@ TEST_F(CouplePictures, APictureThatCannotBeWrittenLeavesTheCoupleStored)
   EXPECT_EQ(WeddingOf(1), "March|3|1980");
   EXPECT_TRUE(QDir(folder.File("/AnnPics/1.bmp/full")).exists());
   ExpectCopiesAgree();
+}
+
+// What grows most is the picture; everything else still finds its place.
+TEST_F(CouplePictures, AStoredPictureStaysWhereTheNewOneCannotBeWritten)
+{
+  AddHousehold();
+  GivePicture(couple, Qt::red);
+  OpenForTheCouple();
+  Add(Source("mine.png"));
+  PickDay(kMarch);
+  {
+    const FullDisk disk(QFileInfo(folder.DatabasePath()).size() + 4096);
+    Update();
+  }
+  EXPECT_TRUE(IsDone());
+  EXPECT_EQ(WeddingOf(1), "March|3|1980");
+  EXPECT_EQ(StoredColour(couple), "#ff0000");
+  EXPECT_EQ(PictureFiles(), QStringList({"1.bmp"}));
 }

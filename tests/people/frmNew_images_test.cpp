@@ -2,9 +2,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "frmNew_pictures.h"
+#include "support/WithoutRights.h"
 
+#include <QFileDialog>
 #include <QImageReader>
 #include <QImageWriter>
+
+#include <sys/stat.h>
 
 using namespace PeopleTexts;
 
@@ -95,8 +99,56 @@ QByteArray BlackPng(quint32 width, quint32 height)
   return file;
 }
 
+// Another program takes the file away as soon as the dialog that chose it closes.
+class FileThatGoes : public QObject
+{
+public:
+  explicit FileThatGoes(QString path) : path_(std::move(path)) { qApp->installEventFilter(this); }
+  ~FileThatGoes() override { qApp->removeEventFilter(this); }
+
+  bool eventFilter(QObject* watched, QEvent* event) override
+  {
+    if (qobject_cast<QFileDialog*>(watched) != nullptr && event->type() == QEvent::Hide) {
+      EXPECT_TRUE(QFile::remove(path_));
+    }
+    return false;
+  }
+
+private:
+  QString path_;
+};
+
 class EditorImages : public PicturesTest
 {
+protected:
+  void ChooseWhatGoes()
+  {
+    const FileThatGoes file(Drawn("goes.png"));
+    Choose(folder.File("/goes.png"));
+    EXPECT_FALSE(QFile::exists(folder.File("/goes.png")));
+  }
+  void ChooseNoPicture()
+  {
+    boxes.Expect(kNoImage);
+    Choose(Written("letter.txt", "A letter.\n"));
+  }
+
+  void OpenForAnAddition()
+  {
+    AddPerson("Ann", "Adams");
+    Save(PictureFile(1), {40, 20}, Qt::blue);
+    Open();
+    Click(kAdd);
+  }
+  // The addition is given up, and the person on the page deleted.
+  void ExpectDeleteLeavesTheFile(bool leaves)
+  {
+    Click(kCancelAdd);
+    boxes.Expect(kDeleteQuestion, QMessageBox::Yes | QMessageBox::No, QMessageBox::Yes, "Delete Record");
+    Click(kDelete);
+    EXPECT_TRUE(People().empty());
+    EXPECT_EQ(QFile::exists(PictureFile(1)), leaves);
+  }
 };
 
 }
@@ -176,4 +228,51 @@ TEST_F(EditorImages, OneThatWouldTakeTooMuchMemoryIsRefused)
   boxes.Expect(kNoImage);
   Choose(path);
   EXPECT_EQ(ShownColour(), "#0000ff");
+}
+
+TEST_F(EditorImages, OneThatMayNotBeOpenedIsRefused)
+{
+  const QString path = Drawn("secret.png");
+  ASSERT_EQ(chmod(folder.Path().toUtf8().constData(), 0755), 0);
+  ASSERT_EQ(chmod(path.toUtf8().constData(), 0), 0);
+  Open();
+  Click(kAdd);
+  boxes.Expect(kNoImage);
+  {
+    const WithoutRights rights;
+    ASSERT_TRUE(rights.Done());
+    Choose(path);
+  }
+  ExpectNoPicture();
+}
+
+TEST_F(EditorImages, AFileThatGoesAfterItsChoiceLeavesTheBoxEmptyWithoutAWord)
+{
+  OpenInEdit();
+  ChooseWhatGoes();
+  EXPECT_EQ(boxes.Count(), 0U);
+  EXPECT_FALSE(HasPicture());
+  EXPECT_FALSE(IsShown("imgPerson"));
+  EXPECT_TRUE(IsShown("fraEdit"));
+  Click(kCancelEdit);
+  EXPECT_EQ(ShownColour(), "#0000ff");
+}
+
+TEST_F(EditorImages, WhatIsRefusedDoesNotKeepTheFileOfWhoIsDeletedNext)
+{
+  OpenForAnAddition();
+  ChooseNoPicture();
+  ChooseWhatGoes();
+  CancelChoice();
+  ExpectDeleteLeavesTheFile(false);
+}
+
+TEST_F(EditorImages, WhatIsRefusedAfterAChoiceKeepsTheFileOfWhoIsDeletedNext)
+{
+  OpenForAnAddition();
+  Choose(Drawn("a.png"));
+  ChooseNoPicture();
+  ChooseWhatGoes();
+  CancelChoice();
+  ExpectDeleteLeavesTheFile(true);
 }

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "frmNew_pictures.h"
+#include "support/FullDisk.h"
 
 using namespace PeopleTexts;
 
@@ -185,6 +186,7 @@ TEST_F(EditorPictures, TheOneOfANewPersonTouchesNoOtherFile)
   EXPECT_EQ(Contents(PictureFile(1)), before);
   ExpectStored(PictureFile(2), shown);
   EXPECT_TRUE(HasPicture());
+  EXPECT_FALSE(IsShown("picFinal"));
   Click("cmdFirst");
   EXPECT_EQ(ShownColour(), "#0000ff");
   Click("cmdLast");
@@ -348,4 +350,21 @@ TEST_F(EditorPictures, AReadOnlyFolderStopsNoRecord)
   EXPECT_TRUE(QFile::setPermissions(pictures, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
   EXPECT_EQ(Stored(1, "City"), "Bath");
   EXPECT_TRUE(QFile::exists(PictureFile(1)));
+}
+
+// What grows most is the picture; everything else still finds its place.
+TEST_F(EditorPictures, AStoredOneStaysWhereTheNewOneCannotBeWritten)
+{
+  OpenInEdit();
+  const QByteArray before = Contents(PictureFile(1));
+  Choose(Drawn("a.png"));
+  Type("txtCity", "Bath");
+  {
+    const FullDisk disk(QFileInfo(folder.DatabasePath()).size() + 4096);
+    Click(kFinishEdit);
+  }
+  EXPECT_EQ(Stored(1, "City"), "Bath");
+  EXPECT_TRUE(QFile::exists(PictureFile(1)));
+  EXPECT_EQ(Contents(PictureFile(1)), before);
+  EXPECT_EQ(QDir(folder.File("/PeoplePics")).entryList(QDir::Files | QDir::Hidden), QStringList{"1.bmp"});
 }
