@@ -3,6 +3,7 @@
 
 #include "people/PersonRecords.h"
 
+#include "controls/modID.h"
 #include "people/RecordBoxes.h"
 #include "platform/Attempt.h"
 #include "platform/Command.h"
@@ -32,9 +33,7 @@ std::unique_ptr<Recordset> PersonRecords::Find(int personID)
 
 int PersonRecords::CurrentPeopleID() const
 {
-  int key = 0;
-  Attempt([&] { key = cursor_->Fields(QStringLiteral("PeopleID")).Value().toInt(); });
-  return key;
+  return cursor_->AbsolutePosition() < 0 ? 0 : static_cast<int>(cursor_->GetBookmark().key);
 }
 
 void PersonRecords::GoTo(int personID)
@@ -86,34 +85,33 @@ bool PersonRecords::Add(const RecordBoxes& boxes)
   return written;
 }
 
+// The steps are taken apart, since the first fails where no row can be read, and leads to
+// the last one all the same.
 void PersonRecords::LeaveNoCurrentRow()
 {
   Attempt([this] { cursor_->CancelUpdate(); });
-  Attempt([this] {
-    cursor_->MoveLast();
-    cursor_->MoveNext();
-  });
+  Attempt([this] { cursor_->MoveLast(); });
+  Attempt([this] { cursor_->MoveNext(); });
 }
 
-// The step to the next row and back is kept: it makes that row a visited one.
+// The step to the next row and back is kept: it makes that row a visited one. It is taken
+// only within what was begun by the write, where no other program can stop the way back.
 bool PersonRecords::Change(const RecordBoxes& boxes)
 {
   const bool written = Attempt([&] {
     const Recordset::Bookmark place = cursor_->GetBookmark();
     cursor_->Edit();
     boxes.WriteFields(*cursor_);
-    const bool updated = Attempt([this] { cursor_->Update(); });
+    cursor_->Update();
     cursor_->MoveNext();
     cursor_->SetBookmark(place);
-    if (!updated) {
-      RaiseError(ErrorNumber::kFileAccess);
-    }
     boxes.InfoConvert(database_, CurrentPeopleID());
     Couples::CopyName(*OpenTable("Ann"), CurrentPeopleID(), cursor_->Fields(QStringLiteral("FirstName")).Value(),
                       cursor_->Fields(QStringLiteral("LastName")).Value());
     Command::Settle();
   });
   if (!written) {
+    Attempt([this] { cursor_->CancelUpdate(); });
     Command::Abandon();
   }
   return written;
@@ -123,6 +121,14 @@ std::vector<Couples::Couple> PersonRecords::CouplesOfCurrent()
 {
   const int person = CurrentPeopleID();
   return person == 0 ? std::vector<Couples::Couple>() : Couples::Of(*OpenTable("Ann"), person);
+}
+
+void PersonRecords::HandOverCouple()
+{
+  for (const Couples::Couple& couple : CouplesOfCurrent()) {
+    modID::CoupleSpouse1ID = couple.spouse1ID;
+    modID::CoupleSpouse2ID = couple.spouse2ID;
+  }
 }
 
 bool PersonRecords::Delete(const std::vector<Couples::Couple>& couples)

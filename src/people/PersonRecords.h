@@ -21,8 +21,11 @@ public:
   [[nodiscard]] Recordset& Cursor() const { return *cursor_; }
   [[nodiscard]] bool IsEmpty() const { return cursor_->RecordCount() == 0; }
 
-  // PeopleID of the current row; 0 if there is none.
+  // PeopleID of the current row; 0 if there is none. Needs nothing of the file.
   [[nodiscard]] int CurrentPeopleID() const;
+
+  // For a row that cannot be shown, so that what stands on the page is not taken for its.
+  void LeaveNoCurrentRow();
 
   // Goes to the person, or past the last row if they are not there.
   void GoTo(int personID);
@@ -43,6 +46,10 @@ public:
 
   [[nodiscard]] std::vector<Couples::Couple> CouplesOfCurrent();
 
+  // Lets the couple editor open on the couple of the current person. Without one, its
+  // choice is left as it stood.
+  void HandOverCouple();
+
   // Deletes the couples and the current person, and the wedding date of the partner. The
   // row before becomes the current one, or the first. False if nothing was deleted.
   bool Delete(const std::vector<Couples::Couple>& couples);
@@ -56,7 +63,6 @@ public:
 private:
   [[nodiscard]] std::unique_ptr<Recordset> OpenTable(const char* name);
   void DeleteCouples(const std::vector<Couples::Couple>& couples);
-  void LeaveNoCurrentRow();
   void LandAfterDelete();
   void VisitAllRows();
 

@@ -199,8 +199,7 @@ void frmNew::FinishAddition()
 
 void frmNew::CancelAddition()
 {
-  boxes_.ClearFields();
-  Attempt([this] { ShowRow(); });
+  ShowOrLeave([this] { ShowRow(); });
   ShowCounter();
   picture_.Empty();
   ShowPicture();
@@ -235,7 +234,7 @@ void frmNew::FinishEdit()
 void frmNew::CancelEdit()
 {
   boxes_.ClearFields();
-  Attempt([this] { boxes_.Show(records_->Cursor()); });
+  ShowOrLeave([this] { boxes_.Show(records_->Cursor()); });
   boxes_.LockFields();
   mode_.ReturnToBrowse();
   picture_.Empty();
@@ -302,7 +301,7 @@ bool frmNew::DeletePerson()
   boxes_.ClearFields();
   ui_->lblCompleteAnn->clear();
   if (!records_->IsEmpty()) {
-    Attempt([this] { ShowRow(); });
+    ShowOrLeave([this] { ShowRow(); });
     ShowPicture();
   }
   RefreshAddressList();
@@ -329,24 +328,18 @@ void frmNew::SearchForName()
     MsgBox(QStringLiteral("Sorry, that name is not in the database"));
     return;
   }
-  Attempt([this] { ShowRow(); });
+  ShowOrLeave([this] { ShowRow(); });
   ShowPicture();
   ShowCounter();
 }
 
-// A person without a couple leaves the choice of the couple editor as it stood.
 void frmNew::EditAnniversary()
 {
   if (mode_.RefuseWhileBusy(
           QStringLiteral("Please finish adding or editing your record before editing anniversary information"))) {
     return;
   }
-  Attempt([this] {
-    for (const Couples::Couple& couple : records_->CouplesOfCurrent()) {
-      modID::CoupleSpouse1ID = couple.spouse1ID;
-      modID::CoupleSpouse2ID = couple.spouse2ID;
-    }
-  });
+  Attempt([this] { records_->HandOverCouple(); });
   Attempt([this] { Unload(); });
   if (!Attempt([] { Forms::Load(QStringLiteral("frmAnn")).Show(); })) {
     Frame::Current().AllowDatabaseCare(true);
@@ -403,6 +396,17 @@ void frmNew::ShowRow()
   ui_->lblCompleteAnn->clear();
   boxes_.Show(records_->Cursor());
   ui_->lblCompleteAnn->setText(records_->Cursor().Fields(QStringLiteral("CompleteAnn")).Value().toString());
+}
+
+void frmNew::ShowOrLeave(const std::function<void()>& show)
+{
+  if (!Attempt(show)) {
+    boxes_.ClearFields();
+    ui_->lblCompleteAnn->clear();
+    picture_.Empty();
+    records_->LeaveNoCurrentRow();
+    ShowCounter();
+  }
 }
 
 void frmNew::ShowPicture()

@@ -13,6 +13,7 @@
 #include "people/RecordBoxes.h"
 #include "people/RecordPicture.h"
 
+#include <functional>
 #include <memory>
 
 namespace Ui {
@@ -74,6 +75,9 @@ private:
   // Showing.
   void Browse(void (Recordset::*step)());
   void ShowRow();
+  // Where the row cannot be read nobody is current, so that no later Finish writes the
+  // empty boxes over somebody.
+  void ShowOrLeave(const std::function<void()>& show);
   void ShowPicture();
   void ShowCurrentRecord();
   void ShowCounter();

@@ -1,38 +1,16 @@
 // SPDX-FileCopyrightText: 2026 The Quillmark authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
+#include "DatabaseTaken.h"
 #include "PeopleTest.h"
 
 #include <QElapsedTimer>
-
-#include <sqlite3.h>
 
 using namespace PeopleTexts;
 
 namespace {
 
 constexpr qint64 kPatience = 20'000;
-
-// Another program that has the whole database to itself, for as long as this stands.
-class OtherProgram
-{
-public:
-  explicit OtherProgram(const QString& path)
-  {
-    EXPECT_EQ(sqlite3_open_v2(path.toUtf8().constData(), &handle_, SQLITE_OPEN_READWRITE, nullptr), SQLITE_OK);
-    EXPECT_EQ(sqlite3_exec(handle_, "BEGIN EXCLUSIVE", nullptr, nullptr, nullptr), SQLITE_OK);
-  }
-  ~OtherProgram()
-  {
-    EXPECT_EQ(sqlite3_exec(handle_, "ROLLBACK", nullptr, nullptr, nullptr), SQLITE_OK);
-    sqlite3_close(handle_);
-  }
-  OtherProgram(const OtherProgram&) = delete;
-  OtherProgram& operator=(const OtherProgram&) = delete;
-
-private:
-  sqlite3* handle_ = nullptr;
-};
 
 class EditorFaults : public PeopleTest
 {
@@ -201,7 +179,7 @@ TEST_F(EditorFaults, AnAdditionToALockedStoreLeavesNothing)
   QElapsedTimer timer;
   timer.start();
   {
-    const OtherProgram other(folder.DatabasePath());
+    const DatabaseTaken other(folder.DatabasePath());
     Click(kFinishAdd);
   }
   EXPECT_LT(timer.elapsed(), kPatience);
@@ -218,7 +196,7 @@ TEST_F(EditorFaults, AfterALockedStoreAnAdditionSucceeds)
   const auto before = Everything();
   FillNew("Dan", "Dunn");
   {
-    const OtherProgram other(folder.DatabasePath());
+    const DatabaseTaken other(folder.DatabasePath());
     Click(kFinishAdd);
   }
   EXPECT_EQ(Everything(), before);
@@ -237,7 +215,7 @@ TEST_F(EditorFaults, WhatWasLostInALockedStoreIsNotWrittenOverSomebodyElse)
   const auto before = Everything();
   FillNew("Dan", "Dunn");
   {
-    const OtherProgram other(folder.DatabasePath());
+    const DatabaseTaken other(folder.DatabasePath());
     Click(kFinishAdd);
   }
   Click(kEdit);
@@ -262,7 +240,7 @@ TEST_F(EditorFaults, AnEditInALockedStoreLeavesTheRecordAsItWas)
   QElapsedTimer timer;
   timer.start();
   {
-    const OtherProgram other(folder.DatabasePath());
+    const DatabaseTaken other(folder.DatabasePath());
     Click(kFinishEdit);
   }
   EXPECT_LT(timer.elapsed(), kPatience);
@@ -281,7 +259,7 @@ TEST_F(EditorFaults, AfterALockedStoreAnEditSucceeds)
   Click(kEdit);
   Type("txtFirst", "New");
   {
-    const OtherProgram other(folder.DatabasePath());
+    const DatabaseTaken other(folder.DatabasePath());
     Click(kFinishEdit);
   }
   Click(kEdit);
@@ -302,7 +280,7 @@ TEST_F(EditorFaults, ADeleteInALockedStoreLeavesEverything)
   timer.start();
   ExpectDelete(false);
   {
-    const OtherProgram other(folder.DatabasePath());
+    const DatabaseTaken other(folder.DatabasePath());
     Click(kDelete);
   }
   EXPECT_LT(timer.elapsed(), kPatience);
@@ -322,11 +300,11 @@ TEST_F(EditorFaults, ADeleteOfAPartnerInALockedStoreLeavesTheCouple)
   Open();
   const auto before = Everything();
   ExpectDelete(true);
-  std::unique_ptr<OtherProgram> other;
+  std::unique_ptr<DatabaseTaken> other;
   {
     AtMessageBox atBox([&] {
       if (boxes.Count() == 1) {
-        other = std::make_unique<OtherProgram>(folder.DatabasePath());
+        other = std::make_unique<DatabaseTaken>(folder.DatabasePath());
       }
     });
     Click(kDelete);
@@ -346,11 +324,11 @@ TEST_F(EditorFaults, ADeleteOfAPartnerInALockedStoreLeavesTheCouple)
   EXPECT_TRUE(Couples().empty());
 }
 
-TEST_F(EditorFaults, BrowsingSearchingAndCancellingEndInNoMessageWhileTheStoreIsLocked)
+TEST_F(EditorFaults, CancellingAndACancelledSearchEndInNoMessageWhileTheStoreIsLocked)
 {
   AddFamily();
   Open();
-  const OtherProgram other(folder.DatabasePath());
+  const DatabaseTaken other(folder.DatabasePath());
   Click(kEdit);
   Click(kCancelEdit);
   Click(kAdd);
@@ -365,7 +343,7 @@ TEST_F(EditorFaults, TheAnniversaryPageIsReachedWhileTheStoreIsLocked)
 {
   AddFamily();
   Open();
-  const OtherProgram other(folder.DatabasePath());
+  const DatabaseTaken other(folder.DatabasePath());
   Click(kAnniversary);
   EXPECT_FALSE(IsOpen());
   EXPECT_TRUE(IsOpen("frmAnn"));
@@ -377,7 +355,7 @@ TEST_F(EditorFaults, AQuickFillFromALockedStoreEndsInNoMessage)
   Open();
   Click(kAdd);
   Type("txtFirst", "Dan");
-  const OtherProgram other(folder.DatabasePath());
+  const DatabaseTaken other(folder.DatabasePath());
   Pick("cboStreet", "Adams, Ann");
   EXPECT_EQ(Shown("txtFirst"), "Dan");
   EXPECT_TRUE(IsShown("fraAdd"));
@@ -387,7 +365,7 @@ TEST_F(EditorFaults, TheMainPageIsReachedWhileTheStoreIsLocked)
 {
   AddFamily();
   Open();
-  const OtherProgram other(folder.DatabasePath());
+  const DatabaseTaken other(folder.DatabasePath());
   Click(kMain);
   EXPECT_FALSE(IsOpen());
   EXPECT_TRUE(IsOpen("frmIntro"));
