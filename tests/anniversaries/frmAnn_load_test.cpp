@@ -3,12 +3,14 @@
 
 #include "AnniversariesTest.h"
 
+#include "controls/Shape.h"
 #include "looks/modToolTips.h"
 
 #include <QAbstractButton>
 #include <QBuffer>
 #include <QDataStream>
 #include <QFile>
+#include <QTimer>
 
 namespace {
 
@@ -64,6 +66,22 @@ protected:
     stream << quint8(32) << quint8(32) << quint8(0) << quint8(0) << quint16(5) << quint16(0);
     stream << quint32(png.size()) << quint32(22);
     file.write(png);
+  }
+
+  void OpenInTheme(int theme)
+  {
+    folder.Execute("UPDATE Options SET Theme=?", {theme});
+    Open();
+  }
+  static int StyleOfPanel() { return dynamic_cast<Shape&>(Control("shpEdit")).FillStyle(); }
+  static std::string BackColor() { return Page().BackColor().name().toStdString(); }
+
+  static const Label& Command(const QString& name) { return dynamic_cast<const Label&>(Control(name)); }
+  static bool IsLit(const QString& command) { return Command(command).BackStyle() == Label::kOpaque; }
+  static void MoveOverList(const QString& list)
+  {
+    QTest::mouseMove(List(list).viewport(), QPoint(3, 3));
+    QTest::mouseMove(List(list).viewport(), QPoint(4, 4));
   }
 
   [[nodiscard]] std::vector<std::string> Totals() const
@@ -324,4 +342,79 @@ TEST_F(CoupleEditorLoad, TheCursorOfTheFolderPointsOverTheLists)
     EXPECT_EQ(List(list).viewport()->cursor().shape(), Qt::BitmapCursor) << list.toStdString();
   }
   EXPECT_NE(Control("lblDone1").cursor().shape(), Qt::BitmapCursor);
+}
+
+TEST_F(CoupleEditorLoad, WithoutTheCursorOfTheFolderTheArrowStaysOverTheLists)
+{
+  ASSERT_FALSE(QFile::exists(folder.File("/hand.cur")));
+  Open();
+  for (const QString& list : {kWomen, kMen, kCouples}) {
+    MoveOverList(list);
+    EXPECT_EQ(List(list).viewport()->cursor().shape(), Qt::ArrowCursor) << list.toStdString();
+  }
+  EXPECT_EQ(boxes.Count(), 0U);
+}
+
+TEST_F(CoupleEditorLoad, AppliesAPictureTheme)
+{
+  for (const auto& [theme, picture] :
+       QList<std::pair<int, QString>>{{0, "footw2"}, {1, "canw2"}, {2, "trumpw2"}, {3, "shellw3"}}) {
+    const QSize size(20 + theme, 30);
+    Hands::SavePicture(folder.File("/themes/" + picture + ".jpg"), Qt::red, size);
+    OpenInTheme(theme);
+    EXPECT_EQ(Page().Picture().size(), size);
+    EXPECT_EQ(BackColor(), "#ffffff");
+    EXPECT_EQ(StyleOfPanel(), Shape::kHollow);
+    EXPECT_FALSE(IsShown("Shape15"));
+    Leave();
+  }
+}
+
+TEST_F(CoupleEditorLoad, AppliesAColourTheme)
+{
+  for (const auto& [theme, colour] : QList<std::pair<int, std::string>>{{4, "#ffffff"}, {5, "#fff9e9"}}) {
+    OpenInTheme(theme);
+    EXPECT_TRUE(Page().Picture().isNull());
+    EXPECT_EQ(BackColor(), colour);
+    EXPECT_EQ(StyleOfPanel(), Shape::kSolid);
+    EXPECT_TRUE(IsShown("Shape15"));
+    Leave();
+  }
+}
+
+TEST_F(CoupleEditorLoad, TheMouseLightsOneCommandAtATime)
+{
+  Open();
+  Drive::MoveOver(Page());
+  const QStringList commands = {AnnCommand::kUpdate, AnnCommand::kMain, AnnCommand::kDelete, AnnCommand::kCancel,
+                                AnnCommand::kNotListed};
+  for (const QString& command : commands) {
+    Drive::MoveOver(Page(), command);
+    for (const QString& other : commands) {
+      EXPECT_EQ(IsLit(other), other == command) << other.toStdString() << " under " << command.toStdString();
+    }
+    EXPECT_EQ(Command(command).ForeColor(), QColor(Qt::black)) << command.toStdString();
+  }
+  Drive::MoveOver(Page());
+  EXPECT_FALSE(IsLit(commands.last()));
+}
+
+TEST_F(CoupleEditorLoad, AMoveOverAListPutsTheCommandsOut)
+{
+  Open();
+  for (const QString& list : {kWomen, kMen, kCouples}) {
+    Drive::MoveOver(Page(), AnnCommand::kUpdate);
+    ASSERT_TRUE(IsLit(AnnCommand::kUpdate));
+    MoveOverList(list);
+    EXPECT_FALSE(IsLit(AnnCommand::kUpdate)) << list.toStdString();
+  }
+}
+
+TEST_F(CoupleEditorLoad, TheTimerOfDoneIsOffAtFirstAndTicksTwiceASecond)
+{
+  Open();
+  const auto* timer = Page().findChild<QTimer*>("tmrTimer");
+  ASSERT_NE(timer, nullptr);
+  EXPECT_EQ(timer->interval(), 500);
+  EXPECT_FALSE(timer->isActive());
 }

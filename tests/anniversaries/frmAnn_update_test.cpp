@@ -257,6 +257,25 @@ TEST_F(CoupleEditorUpdate, TakesAwayTheDatesOfAllWhoAreInNoCouple)
   EXPECT_EQ(WeddingOf(bob), "June|12|1999");
 }
 
+// Partners are told by their gender as well as by their place in a couple.
+TEST_F(CoupleEditorUpdate, TakesAwayTheDateOfAPartnerWhoIsNowListedWithTheOthers)
+{
+  AddHousehold();
+  folder.Execute("UPDATE People SET Gender='Male' WHERE PeopleID=?", {ann});
+  const std::string before = Couple(couple);
+  OpenForSingles();
+  PickDay(kMarch);
+  Update();
+  EXPECT_EQ(WeddingOf(ann), "-|-|-");
+  EXPECT_EQ(WeddingOf(bob), "June|12|1999");
+  EXPECT_EQ(Couple(couple), before);
+  folder.Execute("UPDATE People SET Gender='Female' WHERE PeopleID=?", {bob});
+  Update();
+  EXPECT_EQ(WeddingOf(bob), "-|-|-");
+  EXPECT_EQ(WeddingOf(eve), "March|3|1980");
+  EXPECT_EQ(WeddingOf(fred), "March|3|1980");
+}
+
 TEST_F(CoupleEditorUpdate, MakesBlanksInAllCouplesNull)
 {
   AddHousehold();

@@ -71,6 +71,17 @@ protected:
     }
   }
 
+  static std::string BackColorOf(const QString& name)
+  {
+    return Control(name).property("BackColor").value<QColor>().name().toStdString();
+  }
+  static void ExpectPanels(const std::string& colour)
+  {
+    for (const char* panel : {"fraAdd", "fraEdit", "fraTools", "fraOther", "fraNav", "picPerson"}) {
+      EXPECT_EQ(BackColorOf(panel), colour) << panel;
+    }
+  }
+
   void StoreTheme(int theme) const { folder.Execute("UPDATE Options SET Theme = ?", {theme}); }
 
   void SpoilTallies() const
@@ -229,11 +240,28 @@ TEST_F(EditorDetails, TheBeigeThemeIsAppliedAtTheLoad)
   StoreTheme(5);
   Open();
   EXPECT_EQ(Page().BackColor().name().toStdString(), "#fff9e9");
-  for (const char* panel : {"fraAdd", "fraEdit", "fraTools", "fraOther", "fraNav"}) {
-    EXPECT_EQ(Control(panel).property("BackColor").value<QColor>().name().toStdString(), "#fff9e9") << panel;
-  }
+  ExpectPanels("#fff9e9");
   EXPECT_TRUE(Page().Picture().isNull());
   EXPECT_TRUE(IsShown("Shape15"));
+}
+
+TEST_F(EditorDetails, TheWhiteThemeIsAppliedAtTheLoad)
+{
+  StoreTheme(4);
+  Open();
+  EXPECT_EQ(Page().BackColor().name().toStdString(), "#ffffff");
+  ExpectPanels("#ffffff");
+  EXPECT_TRUE(Page().Picture().isNull());
+  EXPECT_TRUE(IsShown("Shape15"));
+}
+
+// The folder of the themes is empty.
+TEST_F(EditorDetails, WithoutItsThemeThePageAndItsPictureBoxAreWhite)
+{
+  Open();
+  EXPECT_EQ(Page().BackColor().name().toStdString(), "#ffffff");
+  EXPECT_EQ(BackColorOf("picPerson"), "#ffffff");
+  EXPECT_EQ(Background("picPerson"), "#ffffff");
 }
 
 TEST_F(EditorDetails, APictureThemeIsAppliedAtTheLoad)
@@ -242,6 +270,7 @@ TEST_F(EditorDetails, APictureThemeIsAppliedAtTheLoad)
   QDir(folder.Path()).mkdir("themes");
   Save(folder.File("/themes/mariw.jpg"), {24, 30});
   Open();
+  ExpectPanels("#ffffff");
   EXPECT_EQ(Page().Picture().size(), QSize(24, 30));
   EXPECT_EQ(Page().BackColor().name().toStdString(), "#ffffff");
   EXPECT_FALSE(IsShown("Shape15"));
