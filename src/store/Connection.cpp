@@ -8,6 +8,7 @@
 #include "store/StoreError.h"
 
 #include <QFile>
+#include <QFileInfo>
 
 #include <optional>
 #include <sqlite3.h>
@@ -40,6 +41,10 @@ std::shared_ptr<Connection> Connection::To(const QString& path)
   const std::optional<FileIdentity> identity = IdentityOf(path);
   if (!identity) {
     StoreError::Raise(StoreError::kFileNotFound, path);
+  }
+  // A pipe would be waited for, a folder be taken for a file that cannot be written.
+  if (!QFileInfo(path).isFile()) {
+    StoreError::Raise(StoreError::kNotADatabase);
   }
   std::weak_ptr<Connection>& known = OpenConnections()[*identity];
   std::shared_ptr<Connection> connection = known.lock();
@@ -83,7 +88,6 @@ void Connection::Open(const QString& path)
     StoreError::Raise(StoreError::kReadOnly);
   }
   Execute("PRAGMA synchronous = FULL");
-  Execute("PRAGMA journal_mode = DELETE");
 }
 
 Connection::~Connection()
@@ -119,6 +123,10 @@ void Connection::BeginWrite()
 {
   if (lost_ && Command::IsRunning()) {
     StoreError::Raise(StoreError::kDiskFull);
+  }
+  if (!keepsToOneFile_ && sqlite3_get_autocommit(handle_) != 0) {
+    Execute("PRAGMA journal_mode = DELETE");
+    keepsToOneFile_ = true;
   }
   if (Command::IsRunning() && sqlite3_get_autocommit(handle_) != 0) {
     Execute("BEGIN IMMEDIATE");

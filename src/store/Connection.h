@@ -78,7 +78,8 @@ private:
   std::shared_ptr<Connection> keptForCommand_;  // while a transaction is open
   long commandSeen_ = -1;
   int outsideVersion_ = 0;
-  bool lost_ = false;  // the running command's writes, by a failure
+  bool keepsToOneFile_ = false;  // set at the first write, since it may change the file itself
+  bool lost_ = false;            // the running command's writes, by a failure
   std::map<QString, long long> changes_;
   long long epoch_ = 0;
   Order lastOrder_;

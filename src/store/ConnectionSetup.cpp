@@ -24,5 +24,8 @@ void SetUpConnection(sqlite3* connection)
   sqlite3_busy_timeout(connection, kPatienceMilliseconds);
   sqlite3_db_config(connection, SQLITE_DBCONFIG_DEFENSIVE, 1, nullptr);
   sqlite3_db_config(connection, SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0, nullptr);
+  // A name in quotes is that of a column, and no text if there is no such column.
+  sqlite3_db_config(connection, SQLITE_DBCONFIG_DQS_DML, 0, nullptr);
+  sqlite3_exec(connection, "PRAGMA cell_size_check = ON", nullptr, nullptr, nullptr);
   sqlite3_create_collation(connection, "TEXTORDER", SQLITE_UTF8, nullptr, CompareTexts);
 }

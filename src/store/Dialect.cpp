@@ -11,6 +11,9 @@
 namespace Dialect {
 namespace {
 
+// More than the program ever says, and less than SQLite can nest.
+constexpr std::size_t kMostParts = 100;
+
 class Parser
 {
 public:
@@ -22,6 +25,7 @@ public:
 private:
   [[nodiscard]] const Token& Next() const { return tokens_[at_]; }
   [[noreturn]] void Refuse() const;
+  void Limit(std::size_t parts) const;
 
   bool TakeWord(const char* word);
   bool TakeSymbol(char symbol);
@@ -44,6 +48,13 @@ private:
 void Parser::Refuse() const
 {
   StoreError::Raise(StoreError::kSyntax, Next().text);
+}
+
+void Parser::Limit(std::size_t parts) const
+{
+  if (parts > kMostParts) {
+    Refuse();
+  }
 }
 
 bool Parser::TakeWord(const char* word)
@@ -127,6 +138,7 @@ Expression Parser::ParseExpression()
   Expression expression{ParseOperand()};
   while (TakeSymbol('&')) {
     expression.push_back(ParseOperand());
+    Limit(expression.size());
   }
   return expression;
 }
@@ -158,6 +170,7 @@ Select Parser::ParseSelect()
   ExpectWord("SELECT");
   do {
     select.items.push_back(ParseItem());
+    Limit(select.items.size());
   } while (TakeSymbol(','));
   ExpectWord("FROM");
   select.table = TakeName();
@@ -178,6 +191,7 @@ Select Parser::ParseSelect()
     ExpectWord("BY");
     do {
       select.order.push_back(ParseExpression());
+      Limit(select.order.size());
     } while (TakeSymbol(','));
   }
   ExpectEnd();
@@ -197,8 +211,12 @@ Criterion Parser::ParseCriterion()
   return criterion;
 }
 
+// SQLite takes a zero for the end of all.
 QString QuoteText(QString text)
 {
+  if (text.contains(QChar::Null)) {
+    StoreError::Raise(StoreError::kSyntax, text);
+  }
   text.replace(QLatin1Char('\''), QLatin1String("''"));
   return QLatin1Char('\'') + text + QLatin1Char('\'');
 }

@@ -23,6 +23,13 @@ ColumnType TypeNamed(const QString& declared)
   return name == QLatin1String("TIME") ? ColumnType::kTime : ColumnType::kText;
 }
 
+// A view, or a table that a program makes up, may have rows without end.
+bool IsPlainTable(Connection& connection, const QString& name)
+{
+  Statement statement(connection, QStringLiteral("PRAGMA main.table_list(%1)").arg(QuoteName(name)));
+  return statement.Step() && statement.Text(2) == QLatin1String("table");
+}
+
 void ReadColumns(Connection& connection, TableSchema& table)
 {
   Statement statement(connection, QStringLiteral("PRAGMA table_info(%1)").arg(QuoteName(table.name)));
@@ -43,6 +50,9 @@ void ReadIndexes(Connection& connection, TableSchema& table)
     Statement statement(connection, QStringLiteral("PRAGMA index_list(%1)").arg(QuoteName(table.name)));
     while (statement.Step()) {
       names.push_back(statement.Text(1));
+      if (statement.Text(3) == QLatin1String("pk")) {
+        table.key.clear();  // a key that is kept apart may be no number
+      }
     }
   }
   for (const QString& name : names) {
@@ -53,19 +63,30 @@ void ReadIndexes(Connection& connection, TableSchema& table)
   }
 }
 
+// The name of a table's own numbers that no column takes.
+QString RowNumberOf(const TableSchema& table)
+{
+  for (const QString& name : {QStringLiteral("rowid"), QStringLiteral("_rowid_"), QStringLiteral("oid")}) {
+    if (table.FindColumn(name) == nullptr) {
+      return name;
+    }
+  }
+  StoreError::Raise(StoreError::kUnknownTable, table.name);
+}
+
 }
 
 TableSchema ReadTableSchema(Connection& connection, const QString& name)
 {
   TableSchema table;
   table.name = name;
-  ReadColumns(connection, table);
-  if (table.columns.empty()) {
+  if (!IsPlainTable(connection, name)) {
     StoreError::Raise(StoreError::kUnknownTable, name);
   }
-  if (table.key.isEmpty()) {
-    table.key = QStringLiteral("rowid");
-  }
+  ReadColumns(connection, table);
   ReadIndexes(connection, table);
+  if (table.key.isEmpty()) {
+    table.key = RowNumberOf(table);
+  }
   return table;
 }

@@ -72,6 +72,16 @@ Statement& Statement::Bind(int parameter, const QVariant& value)
   return *this;
 }
 
+Statement& Statement::BindExact(int parameter, const Exact& value)
+{
+  if (value) {
+    sqlite3_bind_value(statement_, parameter, value.get());
+  } else {
+    sqlite3_bind_null(statement_, parameter);
+  }
+  return *this;
+}
+
 bool Statement::Step()
 {
   const int code = sqlite3_step(statement_);
@@ -130,6 +140,12 @@ std::string_view Statement::Bytes(int column) const
 QString Statement::Text(int column) const
 {
   return FromUtf8(Bytes(column));
+}
+
+Statement::Exact Statement::ExactValue(int column) const
+{
+  return IsNull(column) ? nullptr
+                        : Exact(sqlite3_value_dup(sqlite3_column_value(statement_, column)), sqlite3_value_free);
 }
 
 QVariant Statement::Value(int column, ColumnType type) const

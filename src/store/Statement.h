@@ -7,10 +7,12 @@
 
 #include <QVariant>
 
+#include <memory>
 #include <string_view>
 
 class Connection;
 struct sqlite3_stmt;
+struct sqlite3_value;
 
 // One run of a prepared statement; it is reset when this goes.
 class Statement
@@ -23,6 +25,10 @@ public:
 
   // Gives the parameters their values, from 1 on; a null QVariant is Null.
   Statement& Bind(int parameter, const QVariant& value);
+
+  // A value as it stands in the file, whatever it is; null for Null.
+  using Exact = std::shared_ptr<sqlite3_value>;
+  Statement& BindExact(int parameter, const Exact& value);
 
   // True while there is a row. Throws a StoreError.
   bool Step();
@@ -45,6 +51,7 @@ public:
   [[nodiscard]] double Number(int column) const;
   [[nodiscard]] std::string_view Bytes(int column) const;  // UTF-8, until the next step
   [[nodiscard]] QString Text(int column) const;
+  [[nodiscard]] Exact ExactValue(int column) const;
   // As its type travels; a value that is not of that type as its text.
   [[nodiscard]] QVariant Value(int column, ColumnType type) const;
 

@@ -47,6 +47,9 @@ TableCursor::TableCursor(const std::shared_ptr<Connection>& connection, const Ta
   StandOnOutermost(Direction::kForward);
 }
 
+// Parameters: the indexed value, the key, the limit. In a damaged file an index may lead to
+// rows that are not behind the place they are looked for from: the conditions with a sign
+// are asked of the rows themselves, so that a walk always comes to its end.
 QString TableCursor::PhaseSql(Direction direction, bool nulls, bool bounded) const
 {
   const bool forward = direction == Direction::kForward;
@@ -59,10 +62,11 @@ QString TableCursor::PhaseSql(Direction direction, bool nulls, bool bounded) con
     conditions.append(indexColumn_ + (nulls ? QLatin1String(" IS NULL") : QLatin1String(" IS NOT NULL")));
   }
   if (bounded) {
-    conditions.append(byIndex ? QStringLiteral("(%1,%2) %3 (?,?)").arg(indexColumn_, key, comparison)
-                              : QStringLiteral("%1 %2 ?").arg(key, comparison));
+    conditions.append(
+        byIndex ? QStringLiteral("(%1,%2) %3 (?1,?2) AND (+%1,+%2) %3 (?1,?2)").arg(indexColumn_, key, comparison)
+                : QStringLiteral("%1 %2 ?2 AND +%1 %2 ?2").arg(key, comparison));
   }
-  return QStringLiteral("SELECT %1,%2 FROM %3%4%5 ORDER BY %6%1 %7 LIMIT ?")
+  return QStringLiteral("SELECT %1,%2 FROM %3%4%5 ORDER BY %6%1 %7 LIMIT ?3")
       .arg(key, indexColumn_.isEmpty() ? QStringLiteral("NULL") : indexColumn_, QuoteName(Table().name),
            conditions.isEmpty() ? QString() : QStringLiteral(" WHERE "), conditions.join(QLatin1String(" AND ")),
            byIndex ? QStringLiteral("%1 %2,").arg(indexColumn_, order) : QString(), order);
@@ -72,21 +76,13 @@ std::vector<TableCursor::Place> TableCursor::ReadPhase(Direction direction, bool
                                                        const std::optional<Place>& from, int limit)
 {
   Statement statement(Store(), PhaseSql(direction, nulls, from.has_value()));
-  int parameter = 0;
   if (from) {
-    if (!indexColumn_.isEmpty() && !nulls) {
-      statement.Bind(++parameter, from->indexed);
-    }
-    statement.Bind(++parameter, from->key);
+    statement.BindExact(1, from->indexed).Bind(2, from->key);
   }
-  statement.Bind(++parameter, limit);
+  statement.Bind(3, limit);
   std::vector<Place> places;
   while (statement.Step()) {
-    QVariant indexed;
-    if (!statement.IsNull(1)) {
-      indexed = statement.IsNumber(1) ? QVariant(statement.Integer(1)) : QVariant(statement.Text(1));
-    }
-    places.push_back({indexed, statement.Integer(0)});
+    places.push_back({statement.ExactValue(1), statement.Integer(0)});
   }
   return places;
 }
@@ -97,7 +93,7 @@ std::vector<TableCursor::Place> TableCursor::ReadPlaces(Direction direction, con
                                                         int limit)
 {
   const bool nullsFirst = direction == Direction::kForward;
-  const bool fromNull = from && from->indexed.isNull();
+  const bool fromNull = from && !from->indexed;
   std::vector<Place> places;
   if (indexColumn_.isEmpty()) {
     return ReadPhase(direction, true, from, limit);
@@ -126,11 +122,7 @@ std::optional<TableCursor::Place> TableCursor::PlaceOf(qint64 key)
   if (!statement.Step()) {
     return std::nullopt;
   }
-  const bool number = statement.IsNumber(0);
-  return Place{statement.IsNull(0) ? QVariant()
-               : number            ? QVariant(statement.Integer(0))
-                                   : QVariant(statement.Text(0)),
-               key};
+  return Place{statement.ExactValue(0), key};
 }
 
 void TableCursor::StandOn(const Place& place)

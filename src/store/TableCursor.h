@@ -5,6 +5,7 @@
 
 #include "store/Recordset.h"
 #include "store/RowReader.h"
+#include "store/Statement.h"
 
 #include <optional>
 
@@ -56,7 +57,7 @@ private:
   // A row's place in the order.
   struct Place
   {
-    QVariant indexed;
+    Statement::Exact indexed;
     qint64 key = 0;
   };
 

@@ -389,6 +389,33 @@ TEST(Dialect, VeryLongTextsAreRefused)
   EXPECT_TRUE(error == 0 || error == StoreError::kSyntax) << error;
 }
 
+TEST(Dialect, MorePartsThanItEverHasAreRefused)
+{
+  const ProgramFolder folder;
+  Database database = DBEngine::OpenDatabase();
+  for (const int count : {101, 1500, 3000}) {
+    for (const QString& query : {
+             "SELECT " + QString("City & ").repeated(count) + "City AS X FROM People",
+             "SELECT " + QString("City, ").repeated(count) + "City FROM People",
+             "SELECT City FROM People ORDER BY " + QString("City, ").repeated(count) + "City",
+             "SELECT City FROM People ORDER BY " + QString("City & ").repeated(count) + "City",
+             "SELECT " + QString("Count(City) AS A, ").repeated(count) + "City FROM People GROUP BY City",
+         }) {
+      const auto open = [&] { static_cast<void>(database.OpenRecordset(query, Database::kDynaset)); };
+      EXPECT_EQ(ErrorOf(open), StoreError::kSyntax) << count << query.left(50).toStdString();
+    }
+  }
+}
+
+TEST(Dialect, AZeroInALiteralIsRefused)
+{
+  const ProgramFolder folder;
+  Database database = DBEngine::OpenDatabase();
+  const QString query = QString("SELECT City & \"a%1b\" AS X FROM People").arg(QChar(u'\0'));
+  EXPECT_EQ(ErrorOf([&] { static_cast<void>(database.OpenRecordset(query, Database::kDynaset)); }),
+            StoreError::kSyntax);
+}
+
 TEST(Dialect, MutatedQueriesAreRefusedOrRead)
 {
   const ProgramFolder folder;
