@@ -5,6 +5,10 @@
 
 #include "controls/EntryBox.h"
 #include "controls/ListBox.h"
+#include "looks/modThemes.h"
+#include "support/Hands.h"
+#include "support/PrintDialogScript.h"
+#include "support/PrintedPages.h"
 
 namespace {
 
@@ -40,4 +44,36 @@ TEST_F(CalendarInTheFrame, AnEventIsAddedToADayAndShowsInItsCell)
   EXPECT_EQ(folder.Value("SELECT Date || ' ' || Event || ' ' || Time FROM Reminders").toString(),
             "2026-05-05 Dentist 21:30:00");
   Drive::Click(*calendar, "lblOptions_2");
+}
+
+TEST_F(CalendarInTheFrame, TheMenuOpensItWithItsPrintDialogAndPrintsTheMonth)
+{
+  LayThemes();
+  folder.Execute("INSERT INTO Reminders (Month, Date, Event) VALUES ('May', '2026-05-05', 'Dentist')");
+  const QString path = folder.File("/month.pdf");
+  Start();
+  bool seen = false;
+  Drive::WhenShown("frmPrintCal", [&](QWidget& dialog) {
+    seen = true;
+    Form& calendar = *Forms::Loaded("frmReminders");
+    EXPECT_TRUE(dialog.isModal());
+    EXPECT_TRUE(calendar.isVisible());
+    EXPECT_TRUE(modThemes::CalendarHasPicture());
+    EXPECT_EQ(PictureIn(calendar, "picReminders"), ThemePicture("amaryllisw.jpg"));
+    Hands::Tick(Drive::Control(dialog, "optFormat_0"));
+    PrintDialogScript dialogs;
+    dialogs.ExpectPdf(path);
+    boxes.Expect("Printing completed");
+    Drive::Click(dialog, "lblOptions_0");
+    EXPECT_EQ(boxes.Count(), 1U);
+    Drive::Click(dialog, "lblOptions_1");
+  });
+  Menu("mnuLists_2").trigger();
+  EXPECT_TRUE(seen);
+  EXPECT_EQ(Forms::Loaded("frmPrintCal"), nullptr);
+  EXPECT_TRUE(Forms::Loaded("frmReminders")->isVisible());
+  EXPECT_FALSE(MainPage().isVisible());
+  const PrintedPages pages(path);
+  EXPECT_EQ(pages.Word("May").page, 1);
+  EXPECT_EQ(pages.Word("Dentist").page, 1);
 }

@@ -7,10 +7,12 @@
 #include "controls/Form.h"
 #include "controls/Forms.h"
 #include "controls/Label.h"
+#include "controls/PictureBox.h"
 #include "controls/modID.h"
 #include "looks/Style.h"
 #include "platform/Attempt.h"
 #include "platform/Clock.h"
+#include "platform/LoadPicture.h"
 #include "platform/MediaDevice.h"
 #include "platform/Screen.h"
 #include "platform/Twips.h"
@@ -23,6 +25,7 @@
 
 #include <QAction>
 #include <QFile>
+#include <QImage>
 
 #include <gtest/gtest.h>
 
@@ -81,6 +84,12 @@ protected:
     QCoreApplication::processEvents();
   }
 
+  void ActivateFrame()
+  {
+    frame->activateWindow();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return QApplication::activeWindow() == frame.get(); }));
+  }
+
   void Set(const QString& assignments) const { folder.Execute(QStringLiteral("UPDATE Options SET ") + assignments); }
 
   [[nodiscard]] QVariant Option(const QString& column) const
@@ -98,6 +107,20 @@ protected:
   }
 
   static Form& MainPage() { return *Forms::Loaded(QStringLiteral("frmIntro")); }
+
+  // The delivered pictures of the themes.
+  void LayThemes() const
+  {
+    ASSERT_TRUE(QFile::link(QStringLiteral(QUILLMARK_LAID_FOLDER "/themes"), folder.File(QStringLiteral("/themes"))));
+  }
+  [[nodiscard]] QImage ThemePicture(const char* name) const
+  {
+    return name == nullptr ? QImage() : LoadPicture(folder.File(QStringLiteral("/themes/") + name)).toImage();
+  }
+  static QImage PictureIn(QWidget& form, const QString& box)
+  {
+    return dynamic_cast<PictureBox&>(Drive::Control(form, box)).Picture().toImage();
+  }
 
   ProgramFolder folder;
   MessageBoxScript boxes;

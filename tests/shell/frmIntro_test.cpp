@@ -54,7 +54,41 @@ TEST_F(MainPageTest, CommandsHaveTheirCaptionsAndTips)
     EXPECT_EQ(Command(index).text().toStdString(), kCaptionsAndTips[index].first);
     EXPECT_EQ(Command(index).toolTip().toStdString(), kCaptionsAndTips[index].second);
   }
-  EXPECT_EQ(static_cast<Label&>(Drive::Control(MainPage(), "lblQuillmark")).text(), QStringLiteral("Quillmark"));
+}
+
+TEST_F(MainPageTest, TheProgramsNameAndItsMottoStandInTimesNewRomanOnTheLeft)
+{
+  Start();
+  for (const auto& [name, text] :
+       {std::pair("lblQuillmark", "Quillmark"), std::pair("lblPeople", "the people you keep in mind")}) {
+    const auto& label = static_cast<Label&>(Drive::Control(MainPage(), name));
+    EXPECT_EQ(label.text().toStdString(), text);
+    EXPECT_EQ(label.font().family(), QStringLiteral("Times New Roman")) << name;
+    EXPECT_LT(label.geometry().center().x(), MainPage().width() / 2) << name;
+    EXPECT_TRUE(label.isVisible()) << name;
+  }
+}
+
+TEST_F(MainPageTest, ThePageTakesItsThemeAtItsLoad)
+{
+  LayThemes();
+  const struct
+  {
+    int theme;
+    const char* picture;
+    const char* colour;
+  } cases[] = {{0, "snowboardw.jpg", "#ffffff"}, {1, "flowersw.jpg", "#ffffff"}, {2, "guitarw.jpg", "#ffffff"},
+               {3, "butterflyw.jpg", "#ffffff"}, {4, nullptr, "#ffffff"},        {5, nullptr, "#fff9e9"}};
+  for (const auto& [theme, picture, colour] : cases) {
+    SCOPED_TRACE(theme);
+    Set(QStringLiteral("Theme=%1").arg(theme));
+    Start();
+    EXPECT_EQ(PictureIn(MainPage(), "imgTheme"), ThemePicture(picture));
+    EXPECT_EQ(MainPage().BackColor().name().toStdString(), colour);
+    frame->Unload();
+    frame.reset();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  }
 }
 
 TEST_F(MainPageTest, WithTipsOffNoControlHasOne)

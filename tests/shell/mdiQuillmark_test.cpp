@@ -7,10 +7,12 @@
 #include "platform/RuntimeError.h"
 #include "store/DBEngine.h"
 #include "support/ErrorOf.h"
+#include "support/Hands.h"
 #include "support/SilentClip.h"
 
 #include <QMenu>
 #include <QMenuBar>
+#include <QWindow>
 
 #include <fcntl.h>
 #include <sys/file.h>
@@ -123,6 +125,24 @@ TEST_F(ShellTest, AScreenOf640PixelsIsWarnedOfAndTheProgramGoesOn)
   EXPECT_TRUE(frame->isVisible());
 }
 
+TEST_F(ShellTest, AGuardEndsTheLoadBeforeThePoorScreenIsWarnedOf)
+{
+  Screen::Pretend(QRect(0, 0, 640, 480));
+  {
+    const OtherCopy other(folder.Path());
+    boxes.Expect(kSecondCopy);
+    Start();
+    EXPECT_TRUE(frame->HasEnded());
+    EXPECT_EQ(boxes.Count(), 1U);
+  }
+  frame.reset();
+  Clock::StopOn(QDate(2051, 1, 1));
+  boxes.Expect(kWrongDate);
+  Start();
+  EXPECT_TRUE(frame->HasEnded());
+  EXPECT_EQ(boxes.Count(), 2U);
+}
+
 TEST_F(ShellTest, AScreenOf800PixelsIsNotWarnedOf)
 {
   Screen::Pretend(QRect(0, 0, 800, 600));
@@ -194,6 +214,33 @@ TEST_F(ShellTest, OnASmallScreenTheDecorationIsPartOfTheSize)
   EXPECT_EQ(frame->pos(), QPoint(20, 10));
 }
 
+TEST_F(ShellTest, AMaximisedOrMinimisedFrameIsLeftAsSmallAsItIs)
+{
+  Start();
+  for (const auto& [told, state] : {std::pair(Qt::WindowMaximized, WindowState::kMaximised),
+                                    std::pair(Qt::WindowMinimized, WindowState::kMinimised)}) {
+    frame->overrideWindowState(told);
+    frame->windowHandle()->resize(600, 500);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return frame->size() == QSize(600, 500); }));
+    QCoreApplication::processEvents();
+    EXPECT_EQ(frame->size(), QSize(600, 500));
+    EXPECT_EQ(frame->State(), state);
+    frame->overrideWindowState(Qt::WindowNoState);
+    frame->windowHandle()->resize(610, 510);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return frame->size() == QSize(767, 606); })) << "the normal one snaps";
+  }
+}
+
+// With the menu above it, a client area of its design's 552 pixels is below the smallest height.
+TEST_F(ShellTest, AFreshFrameHasTheWidthOfItsDesignAndTheSmallestHeight)
+{
+  Start();
+  EXPECT_EQ(TwipsFromPixels(frame->centralWidget()->width()), 11520);
+  EXPECT_GE(TwipsFromPixels(frame->centralWidget()->height()), 8280);
+  EXPECT_LT(8280 + TwipsFromPixels(frame->menuBar()->height()), 9085);
+  EXPECT_EQ(TwipsFromPixels(frame->height()), 9090);
+}
+
 TEST_F(ShellTest, TheFrameIsCentredOnTheScreenUnderItsIconAndTitle)
 {
   Screen::Pretend(QRect(0, 0, 1600, 1200));
@@ -262,6 +309,38 @@ TEST_F(ShellTest, TheThemeAndTheTipsCarryTheirMarks)
   EXPECT_TRUE(Menu("mnuTheme_5").isChecked());
   EXPECT_FALSE(Menu("mnuTheme_3").isChecked());
   EXPECT_EQ(Option("Theme"), 5);
+}
+
+TEST_F(ShellTest, AThemeOfTheMenuIsAppliedToTheOpenPagesAtOnceAndAloneCarriesTheMark)
+{
+  LayThemes();
+  const struct
+  {
+    int theme;
+    const char* onMainPage;
+    const char* onCharts;
+    const char* colour;
+  } cases[] = {{5, nullptr, nullptr, "#fff9e9"},
+               {0, "snowboardw.jpg", "rollerbladesw.jpg", "#ffffff"},
+               {3, "butterflyw.jpg", "beew.jpg", "#ffffff"},
+               {4, nullptr, nullptr, "#ffffff"},
+               {2, "guitarw.jpg", "radiow.jpg", "#ffffff"},
+               {1, "flowersw.jpg", "arrangementw.jpg", "#ffffff"}};
+  Start();
+  Drive::Click(MainPage(), "lblOptions_2");
+  Form& charts = *Forms::Loaded("frmCharts");
+  for (const auto& [theme, onMainPage, onCharts, colour] : cases) {
+    SCOPED_TRACE(theme);
+    Menu(QStringLiteral("mnuTheme_%1").arg(theme)).trigger();
+    EXPECT_EQ(Option("Theme"), theme);
+    EXPECT_EQ(PictureIn(MainPage(), "imgTheme"), ThemePicture(onMainPage));
+    EXPECT_EQ(PictureIn(charts, "imgTheme"), ThemePicture(onCharts));
+    EXPECT_EQ(charts.BackColor().name().toStdString(), colour);
+    EXPECT_EQ(charts.Control("Shape15")->isVisible(), onCharts == nullptr);
+    for (int item = 0; item < 6; ++item) {
+      EXPECT_EQ(Menu(QStringLiteral("mnuTheme_%1").arg(item)).isChecked(), item == theme) << item;
+    }
+  }
 }
 
 TEST_F(ShellTest, AThemeThatIsNoneEndsTheStart)
@@ -352,6 +431,47 @@ TEST_F(ShellTest, TheMenuChecksForReminders)
   EXPECT_TRUE(seen);
 }
 
+TEST_F(ShellTest, ModalWindowsAreDialogsOfTheFrame)
+{
+  Start();
+  for (const auto& [menu, dialog] :
+       {std::pair("mnuAutostart", "frmAutoStart"), std::pair("mnuSetReminders", "frmNotice"),
+        std::pair("mnuReminderCheck", "frmTextNotice"), std::pair("mnuAbout", "frmAbout"),
+        std::pair("mnuLists_2", "frmPrintCal")}) {
+    SCOPED_TRACE(dialog);
+    ActivateFrame();
+    bool seen = false;
+    Drive::WhenShown(dialog, [&](QWidget& form) {
+      seen = true;
+      EXPECT_TRUE(form.isModal());
+      EXPECT_EQ(form.windowType(), Qt::Dialog);
+      EXPECT_EQ(form.windowHandle()->transientParent(), frame->windowHandle());
+      form.close();
+    });
+    Menu(menu).trigger();
+    EXPECT_TRUE(seen);
+  }
+}
+
+TEST_F(ShellTest, StartUpNoticesStandAloneAndACheckOverThemIsADialogOfTheFrame)
+{
+  folder.Execute("INSERT INTO People (FirstName, BirthMonth, BirthDate) VALUES ('Ann', 'May', '5')");
+  Start();
+  const Form& notices = *Forms::Loaded("frmTextNotice");
+  EXPECT_EQ(notices.windowType(), Qt::Window);
+  EXPECT_EQ(notices.windowHandle()->transientParent(), nullptr) << "the frame is minimised";
+  frame->SetState(WindowState::kNormal);
+  ActivateFrame();
+  bool seen = false;
+  Drive::WhenShown("frmTextNotice", [&](QWidget& form) {
+    seen = true;
+    EXPECT_EQ(form.windowHandle()->transientParent(), frame->windowHandle());
+    form.close();
+  });
+  Menu("mnuReminderCheck").trigger();
+  EXPECT_TRUE(seen);
+}
+
 TEST_F(ShellTest, AnOpenEditRefusesTheExitAndThePageSwitch)
 {
   for (const char* panel : {"fraEdit", "fraAdd"}) {
@@ -410,6 +530,26 @@ TEST_F(ShellTest, TheListEntriesOpenTheirPageWithThePrintPanel)
     Menu(menu).trigger();
     EXPECT_TRUE(Forms::Loaded(page)->Control("fraPrint")->isVisible()) << page;
   }
+}
+
+TEST_F(ShellTest, ChoosingTheOpenPageAgainKeepsThatVeryPage)
+{
+  folder.Execute(
+      "INSERT INTO People (FirstName, LastName) VALUES ('Ann', 'Adams'), ('Bob', 'Brown'), ('Cid', 'Clark')");
+  Start();
+  Drive::Click(MainPage(), "lblOptions_0");
+  Form* page = Forms::Loaded("frmQuillmark");
+  ASSERT_NE(page, nullptr);
+  auto& names = dynamic_cast<ListBox&>(Drive::Control(*page, "lstNames"));
+  Hands::ClickLine(names, 1);
+  ASSERT_EQ(names.ListIndex(), 1);
+  ASSERT_FALSE(page->Control("fraPrint")->isVisible());
+  Menu("mnuLists_0").trigger();
+  ASSERT_EQ(Forms::Loaded("frmQuillmark"), page);
+  EXPECT_TRUE(page->isVisible());
+  EXPECT_EQ(names.ListIndex(), 1);
+  EXPECT_TRUE(page->Control("fraPrint")->isVisible());
+  EXPECT_FALSE(MainPage().isVisible());
 }
 
 TEST_F(ShellTest, CalendarOfEventsOpensTheCalendarAndThenItsPrintDialog)
