@@ -15,6 +15,7 @@
 #include "looks/modThemes.h"
 #include "looks/modToolTips.h"
 #include "platform/Attempt.h"
+#include "platform/BoxOwner.h"
 #include "platform/Command.h"
 #include "platform/MsgBox.h"
 #include "store/DBEngine.h"
@@ -136,7 +137,7 @@ void frmCalEdit::keyPressEvent(QKeyEvent* event)
 
 void frmCalEdit::StandOverCalendar()
 {
-  if (const QWidget* below = QApplication::activeWindow()) {
+  if (const QWidget* below = BoxOwner()) {
     move(below->frameGeometry().center() - rect().center());
   }
 }

@@ -5,11 +5,11 @@
 
 #include "controls/Forms.h"
 #include "controls/Frame.h"
+#include "platform/BoxOwner.h"
 #include "platform/Command.h"
 #include "platform/RuntimeError.h"
 #include "platform/Twips.h"
 
-#include <QApplication>
 #include <QCloseEvent>
 #include <QEventLoop>
 #include <QPainter>
@@ -105,7 +105,7 @@ void Form::ShowModal()
 {
   const Command::Pause pause;
   hide();
-  StandOver(QApplication::activeWindow());
+  StandOver(BoxOwner());
   Open(Qt::ApplicationModal);
   QEventLoop loop;
   modalLoop_ = &loop;

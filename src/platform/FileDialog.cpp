@@ -4,10 +4,10 @@
 #include "platform/FileDialog.h"
 
 #include "platform/App.h"
+#include "platform/BoxOwner.h"
 #include "platform/Command.h"
 #include "platform/RuntimeError.h"
 
-#include <QApplication>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QIcon>
@@ -32,7 +32,7 @@ QString Ask(QFileDialog& dialog, QString& folder)
 QString ShowOpen()
 {
   static QString folder = QStandardPaths::writableLocation(QStandardPaths::PicturesLocation);
-  QFileDialog dialog(QApplication::activeWindow());
+  QFileDialog dialog(BoxOwner());
   dialog.setFileMode(QFileDialog::ExistingFile);
   dialog.setDirectory(folder);
   return Ask(dialog, folder);
@@ -41,7 +41,7 @@ QString ShowOpen()
 QString ShowSave(const QString& fileName, const QString& extension)
 {
   static QString folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
-  QFileDialog dialog(QApplication::activeWindow());
+  QFileDialog dialog(BoxOwner());
   dialog.setAcceptMode(QFileDialog::AcceptSave);
   dialog.setDefaultSuffix(extension);
   dialog.setOption(QFileDialog::DontConfirmOverwrite);

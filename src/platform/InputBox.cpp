@@ -4,16 +4,16 @@
 #include "platform/InputBox.h"
 
 #include "platform/App.h"
+#include "platform/BoxOwner.h"
 #include "platform/Command.h"
 
-#include <QApplication>
 #include <QIcon>
 #include <QInputDialog>
 
 QString InputBox(const QString& prompt, const QString& title)
 {
   const Command::Pause pause;
-  QInputDialog box(QApplication::activeWindow());
+  QInputDialog box(BoxOwner());
   box.setWindowTitle(title);
   box.setWindowIcon(QIcon(App::File(QStringLiteral("/animp.ico"))));
   box.setLabelText(prompt);

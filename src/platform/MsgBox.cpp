@@ -4,9 +4,9 @@
 #include "platform/MsgBox.h"
 
 #include "platform/App.h"
+#include "platform/BoxOwner.h"
 #include "platform/Command.h"
 
-#include <QApplication>
 #include <QKeyEvent>
 #include <QMessageBox>
 #include <QPushButton>
@@ -76,7 +76,7 @@ public:
 MsgBoxAnswer MsgBox(const QString& text, MsgBoxButtons buttons, const QString& title)
 {
   const Command::Pause pause;
-  QMessageBox box(QApplication::activeWindow());
+  QMessageBox box(BoxOwner());
   box.setWindowTitle(title);
   box.setTextFormat(Qt::PlainText);
   box.setText(text);

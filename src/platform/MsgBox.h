@@ -21,7 +21,7 @@ enum class MsgBoxAnswer
   kNo,
 };
 
-// Shows `text` over the active window. Closing the box by its title bar answers
-// Cancel or No, or OK where that is all there is.
+// Shows `text` over the active window, or what BoxOwner says. Closing the box by its title
+// bar answers Cancel or No, or OK where that is all there is.
 MsgBoxAnswer MsgBox(const QString& text, MsgBoxButtons buttons = MsgBoxButtons::kOk,
                     const QString& title = QStringLiteral("Quillmark"));

@@ -4,12 +4,12 @@
 #include "platform/PrintDialog.h"
 
 #include "platform/App.h"
+#include "platform/BoxOwner.h"
 #include "platform/Command.h"
 #include "platform/PrintDocument.h"
 #include "platform/Printer.h"
 #include "platform/RuntimeError.h"
 
-#include <QApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QIcon>
@@ -81,7 +81,7 @@ void ShowPrinter(PrinterDefault choice)
 {
   const Command::Pause pause;
   std::unique_ptr<QPrinter> printer = FirstChoice();
-  QPrintDialog dialog(printer.get(), QApplication::activeWindow());
+  QPrintDialog dialog(printer.get(), BoxOwner());
   dialog.setWindowIcon(QIcon(App::File(QStringLiteral("/animp.ico"))));
   OfferOneChoiceOfPages(dialog);
   if (dialog.exec() != QDialog::Accepted) {

@@ -4,10 +4,11 @@
 #include "platform/PrintProgress.h"
 
 #include "platform/App.h"
+#include "platform/BoxOwner.h"
 #include "platform/Command.h"
 #include "platform/RuntimeError.h"
 
-#include <QApplication>
+#include <QCoreApplication>
 #include <QIcon>
 #include <QProgressDialog>
 
@@ -49,7 +50,7 @@ void PrintProgress::Step()
 // It neither comes nor goes by itself.
 void PrintProgress::Show()
 {
-  dialog_ = std::make_unique<QProgressDialog>(QApplication::activeWindow());
+  dialog_ = std::make_unique<QProgressDialog>(BoxOwner());
   dialog_->setWindowTitle(QLatin1String(App::kTitle));
   dialog_->setWindowIcon(QIcon(App::File(QStringLiteral("/animp.ico"))));
   dialog_->setLabelText(QStringLiteral("Printing..."));

@@ -5,12 +5,15 @@
 
 #include "looks/modResize.h"
 #include "looks/modThemes.h"
+#include "platform/HelpViewer.h"
 #include "store/Options.h"
+#include "support/HelpOnScreen.h"
 
 #include <QAccessible>
 #include <QElapsedTimer>
 #include <QFile>
 #include <QGroupBox>
+#include <QWindow>
 
 namespace {
 
@@ -310,4 +313,18 @@ TEST_F(EventEditorLoad, EveryControlHasANameForReaders)
     ASSERT_NE(control, nullptr) << name;
     EXPECT_NE(control->text(QAccessible::Name), "") << name;
   }
+}
+
+// The help follows what waits for its user, which must not stand over the help in turn.
+TEST_F(EventEditorLoad, StandsOverTheCalendarAlsoWhileTheHelpIsActive)
+{
+  HelpOnScreen::Lay(folder.Path());
+  calendar.Open(kDay);
+  const QWidget& below = *CalendarBehind::Page().window();
+  HelpViewer::ShowContents();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(HelpOnScreen::Window()));
+  Open();
+  EXPECT_EQ(Page().windowHandle()->transientParent(), below.windowHandle());
+  HelpViewer::Quit();
+  EXPECT_TRUE(IsOpen());
 }
