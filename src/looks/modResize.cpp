@@ -9,12 +9,26 @@
 #include <QComboBox>
 #include <QVariant>
 
+#include <algorithm>
+
 namespace modResize {
 namespace {
 
 constexpr auto kTag = "Tag";
 constexpr qsizetype kFieldLength = 5;
 constexpr int kDecimals = 4;
+
+bool IsDigit(QChar character)
+{
+  return character >= u'0' && character <= u'9';
+}
+
+// A Tag can say anything, but no control goes farther than the toolkit can count.
+int PartOf(int side, double ratio)
+{
+  constexpr double kFarthest = QWIDGETSIZE_MAX;
+  return qRound(std::clamp(ratio * side, -kFarthest, kFarthest));
+}
 
 }
 
@@ -46,7 +60,7 @@ double Val(QStringView text)
   if (text.startsWith(QLatin1Char('-')) || text.startsWith(QLatin1Char('+'))) {
     ++end;
   }
-  while (end < text.size() && (text[end].isDigit() || (text[end] == QLatin1Char('.') && !point))) {
+  while (end < text.size() && (IsDigit(text[end]) || (text[end] == QLatin1Char('.') && !point))) {
     point = point || text[end] == QLatin1Char('.');
     ++end;
   }
@@ -77,8 +91,8 @@ void ResizeControls(Form& form)
 {
   for (QWidget* control : form.Controls()) {
     const auto [left, top, width, height] = ReadRatios(TagOf(*control));
-    const int kept = qobject_cast<QComboBox*>(control) == nullptr ? qRound(height * form.height()) : control->height();
-    control->setGeometry(qRound(left * form.width()), qRound(top * form.height()), qRound(width * form.width()), kept);
+    const int kept = qobject_cast<QComboBox*>(control) == nullptr ? PartOf(form.height(), height) : control->height();
+    control->setGeometry(PartOf(form.width(), left), PartOf(form.height(), top), PartOf(form.width(), width), kept);
   }
 }
 

@@ -22,7 +22,8 @@ void OpenForReading(QFile& file)
   if (!file.exists()) {
     RaiseError(ErrorNumber::kFileNotFound);
   }
-  if (!file.open(QIODevice::ReadOnly)) {
+  // What is no plain file, such as a pipe, may never come to its end.
+  if (!QFileInfo(file).isFile() || !file.open(QIODevice::ReadOnly)) {
     RaiseError(ErrorNumber::kFileAccess);
   }
 }

@@ -33,9 +33,22 @@ QString UsualText(int number)
   }
 }
 
+// A text that names something may name what no screen holds.
+QString Shortened(const QString& text)
+{
+  constexpr qsizetype kLongest = 1000;
+  if (text.size() <= kLongest) {
+    return text;
+  }
+  const bool halfACharacter = text[kLongest - 1].isHighSurrogate();
+  return text.first(halfACharacter ? kLongest - 1 : kLongest) + QChar(0x2026);
 }
 
-RuntimeError::RuntimeError(int number, const QString& text) : number_(number), text_(text), what_(Message().toUtf8()) {}
+}
+
+RuntimeError::RuntimeError(int number, const QString& text)
+    : number_(number), text_(Shortened(text)), what_(Message().toUtf8())
+{}
 
 QString RuntimeError::Message() const
 {

@@ -8,7 +8,8 @@
 #include <exception>
 
 // A statement that failed, with the number and the text that the user sees when
-// nobody catches it ("Run-time error 'N':" and the text).
+// nobody catches it ("Run-time error 'N':" and the text). Of a very long text only the
+// beginning is kept.
 class RuntimeError : public std::exception
 {
 public:

@@ -199,12 +199,12 @@ TEST(Val, ReadsTheNumberThatATextBeginsWith)
     double value;
   };
   const std::vector<Case> cases = {
-      {".2500", .25}, {"7.250", 7.25}, {"-.250", -.25}, {"-1.25", -1.25}, {"12", 12}, {"12 Elm St", 12},
-      {"1.2.3", 1.2}, {"1-.25", 1},    {"0.-.5", 0},    {"", 0},          {"abc", 0}, {".", 0},
-      {"-", 0},       {"-.", 0},       {"--1", 0},      {"00.50", .5},
+      {".2500", .25}, {"7.250", 7.25}, {"-.250", -.25}, {"-1.25", -1.25}, {"12", 12}, {"12 Elm St", 12}, {"1.2.3", 1.2},
+      {"1-.25", 1},   {"0.-.5", 0},    {"", 0},         {"abc", 0},       {".", 0},   {"-", 0},          {"-.", 0},
+      {"--1", 0},     {"00.50", .5},   {"٣", 0},        {"1٣", 1},        {"2.٣", 2},
   };
   for (const Case& c : cases) {
-    EXPECT_DOUBLE_EQ(modResize::Val(QString::fromLatin1(c.text)), c.value) << c.text;
+    EXPECT_DOUBLE_EQ(modResize::Val(QString::fromUtf8(c.text)), c.value) << c.text;
   }
 }
 
@@ -297,6 +297,17 @@ TEST_F(ResizeTest, ControlBehindAFieldThatEndsInSevenIsPlacedFarOutside)
   ASSERT_EQ(TagOf(page, "lblTitle"), "1.0067.2500.1000.1000");
   Resize(page, 300, 200);
   ExpectNear(PlaceOf(page, "lblTitle"), {302, 1450, 30, 20});
+}
+
+TEST_F(ResizeTest, NoTagMovesAControlFartherThanTheToolkitCounts)
+{
+  Page& page = Load({400, 200}, [](Page& form) { form.Add("lblTitle", {0, 0, 100, 25}); });
+  page.resize(1'000'000, 1'000'000);
+  modResize::SetTag(Control(page, "lblTitle"), QStringLiteral("99999-999999999-9999"));
+  modResize::ResizeControls(page);
+  const QRect place = PlaceOf(page, "lblTitle");
+  EXPECT_EQ(place.topLeft(), QPoint(QWIDGETSIZE_MAX, -QWIDGETSIZE_MAX));
+  EXPECT_EQ(place.width(), QWIDGETSIZE_MAX);
 }
 
 TEST_F(ResizeTest, ComboBoxKeepsItsHeight)

@@ -88,6 +88,15 @@ TEST_F(FilesInAFolder, AFolderIsNoFile)
   EXPECT_EQ(Entries(), QStringList({"inner", "source"}));
 }
 
+TEST_F(FilesInAFolder, APipeIsNoFileAndIsNotWaitedFor)
+{
+  ASSERT_EQ(mkfifo(QFile::encodeName(Path("pipe")).constData(), S_IRUSR | S_IWUSR), 0);
+  EXPECT_EQ(ErrorOf([&] { static_cast<void>(Files::ReadLines(Path("pipe"))); }), ErrorNumber::kFileAccess);
+  EXPECT_EQ(ErrorOf([&] { static_cast<void>(Files::ReadFile(Path("pipe"))); }), ErrorNumber::kFileAccess);
+  EXPECT_EQ(ErrorOf([&] { Files::CopyFile(Path("pipe"), Path("copy")); }), ErrorNumber::kFileAccess);
+  EXPECT_FALSE(QFile::exists(Path("copy")));
+}
+
 TEST_F(FilesInAFolder, DeleteFileRemovesTheFileAlone)
 {
   Write("file", "x");

@@ -29,6 +29,15 @@ TEST(RuntimeError, KeepsItsNumberAndItsText)
   EXPECT_STREQ(copy.what(), error.what());
 }
 
+TEST(RuntimeError, OfAVeryLongTextTheBeginningIsKept)
+{
+  const QString name = QString(999, u'n');
+  EXPECT_EQ(RuntimeError(75, name + u'n').Text(), name + u'n');
+  EXPECT_EQ(RuntimeError(75, name + QStringLiteral("nn")).Text(), name + QStringLiteral("n…"));
+  EXPECT_EQ(RuntimeError(75, name + QStringLiteral("🎂")).Text(), name + QStringLiteral("…"));
+  EXPECT_LT(RuntimeError(75, QString(10'000'000, u'n')).Message().size(), 1100);
+}
+
 TEST(RuntimeError, EveryNumberHasItsText)
 {
   const struct
