@@ -3,31 +3,9 @@
 
 #include "AnniversariesTest.h"
 
-#include <sqlite3.h>
+#include "support/HeldDatabase.h"
 
 namespace {
-
-// A connection of somebody else's, which holds the database with an open transaction.
-class Holder
-{
-public:
-  Holder(const QString& path, const char* begin)
-  {
-    EXPECT_EQ(sqlite3_open(path.toUtf8().constData(), &handle_), SQLITE_OK);
-    sqlite3_busy_timeout(handle_, 5000);
-    EXPECT_EQ(sqlite3_exec(handle_, begin, nullptr, nullptr, nullptr), SQLITE_OK) << sqlite3_errmsg(handle_);
-  }
-  ~Holder()
-  {
-    sqlite3_exec(handle_, "ROLLBACK", nullptr, nullptr, nullptr);
-    sqlite3_close(handle_);
-  }
-  Holder(const Holder&) = delete;
-  Holder& operator=(const Holder&) = delete;
-
-private:
-  sqlite3* handle_ = nullptr;
-};
 
 class CoupleEditorFaults : public AnniversariesTest
 {
@@ -95,7 +73,7 @@ protected:
   {
     const auto before = Everything();
     {
-      const Holder holder(folder.DatabasePath(), begin);
+      const HeldDatabase holder(folder.DatabasePath(), begin);
       Click(command);
     }
     ExpectUnchanged(before);

@@ -5,57 +5,12 @@
 
 #include "store/Connection.h"
 #include "store/DBEngine.h"
+#include "support/FullDisk.h"
+#include "support/HeldDatabase.h"
 
-#include <csignal>
 #include <sqlite3.h>
-#include <sys/resource.h>
 
 namespace {
-
-// Another program that holds the database with an open transaction.
-class HeldDatabase
-{
-public:
-  HeldDatabase(const QString& path, const char* begin)
-  {
-    EXPECT_EQ(sqlite3_open(path.toUtf8().constData(), &handle_), SQLITE_OK);
-    EXPECT_EQ(sqlite3_exec(handle_, begin, nullptr, nullptr, nullptr), SQLITE_OK) << sqlite3_errmsg(handle_);
-  }
-  ~HeldDatabase()
-  {
-    sqlite3_exec(handle_, "ROLLBACK", nullptr, nullptr, nullptr);
-    sqlite3_close(handle_);
-  }
-  HeldDatabase(const HeldDatabase&) = delete;
-  HeldDatabase& operator=(const HeldDatabase&) = delete;
-
-private:
-  sqlite3* handle_ = nullptr;
-};
-
-// Lets no file grow beyond a size.
-class LimitedFiles
-{
-public:
-  explicit LimitedFiles(rlim_t bytes) : handler_(std::signal(SIGXFSZ, SIG_IGN))
-  {
-    getrlimit(RLIMIT_FSIZE, &before_);
-    const rlimit limit = {bytes, before_.rlim_max};
-    setrlimit(RLIMIT_FSIZE, &limit);
-  }
-  ~LimitedFiles()
-  {
-    setrlimit(RLIMIT_FSIZE, &before_);
-    std::signal(SIGXFSZ, handler_);
-  }
-  LimitedFiles(const LimitedFiles&) = delete;
-  LimitedFiles& operator=(const LimitedFiles&) = delete;
-
-private:
-  using Handler = void (*)(int);
-  Handler handler_;
-  rlimit before_ = {};
-};
 
 // Breaks off every reading of rows after a write, on the program's own connection.
 class BrokenReads
@@ -231,7 +186,7 @@ TEST_F(EventEditorFaults, AFullDiskAddsNothing)
   FillAdd("Dentist", "9:30 am", QString(500'000, u'n'));
   for (const rlim_t bytes : {rlim_t(100), rlim_t(5'000), rlim_t(100'000)}) {
     SCOPED_TRACE(bytes);
-    const LimitedFiles full(bytes);
+    const FullDisk full(bytes);
     ExpectRefused(Editor::kAdd, Editor::kBadTime);
   }
   FillAdd("Dentist", "9:30 am", "Bring the card");
@@ -244,7 +199,7 @@ TEST_F(EventEditorFaults, AFullDiskChangesNothing)
   FillEdit("Dentist", "9:30 am", QString(500'000, u'n'));
   for (const rlim_t bytes : {rlim_t(100), rlim_t(5'000), rlim_t(100'000)}) {
     SCOPED_TRACE(bytes);
-    const LimitedFiles full(bytes);
+    const FullDisk full(bytes);
     ExpectRefused(Editor::kApply, Editor::kBadTime);
   }
   FillEdit("Dentist", "9:30 am", "Bring the card");

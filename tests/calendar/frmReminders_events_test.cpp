@@ -3,7 +3,7 @@
 
 #include "RemindersTest.h"
 
-#include "people/DatabaseTaken.h"
+#include "support/HeldDatabase.h"
 #include "store/StatementCounter.h"
 #include "store/StoreError.h"
 #include "support/ErrorOf.h"

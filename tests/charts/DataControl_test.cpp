@@ -3,7 +3,7 @@
 
 #include "charts/DataControl.h"
 
-#include "people/DatabaseTaken.h"
+#include "support/HeldDatabase.h"
 #include "store/DBEngine.h"
 #include "store/Queries.h"
 #include "store/StoreError.h"

@@ -6,7 +6,7 @@
 #include "charts/modConvert.h"
 #include "controls/PictureBox.h"
 #include "looks/modThemes.h"
-#include "people/DatabaseTaken.h"
+#include "support/HeldDatabase.h"
 #include "store/DBEngine.h"
 #include "store/StoreError.h"
 #include "support/ErrorOf.h"

@@ -3,7 +3,7 @@
 
 #include "LookupTest.h"
 #include "looks/modResize.h"
-#include "people/DatabaseTaken.h"
+#include "support/HeldDatabase.h"
 
 #include <QElapsedTimer>
 #include <QFile>

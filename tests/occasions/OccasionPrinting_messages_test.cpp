@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "OccasionPrintingTest.h"
-#include "people/DatabaseTaken.h"
+#include "support/HeldDatabase.h"
 
 #include <optional>
 

@@ -1,10 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Quillmark authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "DatabaseTaken.h"
 #include "PeopleTest.h"
 
-#include <QElapsedTimer>
+#include "support/HeldDatabase.h"
 
 using namespace PeopleTexts;
 

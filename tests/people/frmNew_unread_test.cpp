@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Quillmark authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "DatabaseTaken.h"
+#include "support/HeldDatabase.h"
 #include "frmNew_pictures.h"
 
 using namespace PeopleTexts;

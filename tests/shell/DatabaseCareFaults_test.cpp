@@ -1,8 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Quillmark authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "Tampering.h"
-
 #include "controls/Form.h"
 #include "controls/Forms.h"
 #include "looks/Style.h"
@@ -16,17 +14,16 @@
 #include "store/StoreError.h"
 #include "support/ErrorOf.h"
 #include "support/ProgramFolder.h"
+#include "support/Tampering.h"
+#include "support/YesMan.h"
 
 #include <gtest/gtest.h>
 
-#include <QAbstractButton>
 #include <QApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QMessageBox>
 #include <QRegularExpression>
-#include <QTimer>
 
 #include <algorithm>
 #include <functional>
@@ -41,29 +38,6 @@ const QString kSorry = QStringLiteral("Sorry, your database could not be compact
 
 constexpr QFile::Permissions kOfOthers =
     QFile::ReadGroup | QFile::WriteGroup | QFile::ExeGroup | QFile::ReadOther | QFile::WriteOther | QFile::ExeOther;
-
-// Says every message box and answers it with Yes or OK.
-class YesMan : public QObject
-{
-public:
-  explicit YesMan(const Tampering::Say& say) : say_(say) { qApp->installEventFilter(this); }
-
-  bool eventFilter(QObject* watched, QEvent* event) override
-  {
-    auto* box = qobject_cast<QMessageBox*>(watched);
-    if (box != nullptr && event->type() == QEvent::Show) {
-      say_(box->text());
-      QTimer::singleShot(0, box, [box] {
-        QAbstractButton* yes = box->button(QMessageBox::Yes);
-        (yes != nullptr ? yes : box->button(QMessageBox::Ok))->click();
-      });
-    }
-    return false;
-  }
-
-private:
-  const Tampering::Say& say_;
-};
 
 void Compact(const Tampering::Say& say)
 {
