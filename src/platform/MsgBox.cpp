@@ -7,6 +7,7 @@
 #include "platform/BoxOwner.h"
 #include "platform/Command.h"
 
+#include <QFileInfo>
 #include <QKeyEvent>
 #include <QMessageBox>
 #include <QPushButton>
@@ -53,6 +54,13 @@ MsgBoxAnswer Answer(int button)
   }
 }
 
+// None if the file is damaged. A pipe in its place would be waited for.
+QIcon WindowIcon()
+{
+  const QString path = App::File(QStringLiteral("/animp.ico"));
+  return QFileInfo(path).isFile() ? QIcon(path) : QIcon();
+}
+
 // A key that is still held from the command that asks is no answer.
 class HeldKeys : public QObject
 {
@@ -81,7 +89,7 @@ MsgBoxAnswer MsgBox(const QString& text, MsgBoxButtons buttons, const QString& t
   box.setTextFormat(Qt::PlainText);
   box.setText(text);
   box.setIcon(buttons == MsgBoxButtons::kOk ? QMessageBox::Information : QMessageBox::Question);
-  box.setWindowIcon(QIcon(App::File(QStringLiteral("/animp.ico"))));
+  box.setWindowIcon(WindowIcon());
   box.setStandardButtons(Shown(buttons));
   box.setEscapeButton(OnEscape(buttons));
   const HeldKeys held(box);
