@@ -2,8 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "controls/FixedDialog.h"
-
-#include "platform/App.h"
+#include "platform/WindowIcon.h"
 
 #include <QIcon>
 #include <QWidget>
@@ -13,5 +12,5 @@ void MakeFixedDialog(QWidget& window)
   window.setFixedSize(window.size());
   window.setWindowFlags(Qt::Dialog | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint |
                         Qt::CustomizeWindowHint);
-  window.setWindowIcon(QIcon(App::File(QStringLiteral("/animp.ico"))));
+  window.setWindowIcon(WindowIcon());
 }

@@ -3,10 +3,10 @@
 
 #include "platform/FileDialog.h"
 
-#include "platform/App.h"
 #include "platform/BoxOwner.h"
 #include "platform/Command.h"
 #include "platform/RuntimeError.h"
+#include "platform/WindowIcon.h"
 
 #include <QFileDialog>
 #include <QFileInfo>
@@ -18,7 +18,7 @@ namespace {
 QString Ask(QFileDialog& dialog, QString& folder)
 {
   const Command::Pause pause;
-  dialog.setWindowIcon(QIcon(App::File(QStringLiteral("/animp.ico"))));
+  dialog.setWindowIcon(WindowIcon());
   if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
     RaiseError(ErrorNumber::kCancelled);
   }

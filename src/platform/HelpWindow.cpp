@@ -3,11 +3,11 @@
 
 #include "platform/HelpWindow.h"
 
-#include "platform/App.h"
 #include "platform/HelpBook.h"
 #include "platform/HelpPage.h"
 #include "platform/HelpViewer.h"
 #include "platform/Shell.h"
+#include "platform/WindowIcon.h"
 
 #include <QAbstractItemModel>
 #include <QBoxLayout>
@@ -78,7 +78,7 @@ HelpWindow::HelpWindow(std::unique_ptr<HelpBook> book)
 {
   setObjectName(QStringLiteral("HelpViewer"));
   setWindowTitle(QStringLiteral("Quillmark Help"));
-  setWindowIcon(QIcon(App::File(QStringLiteral("/animp.ico"))));
+  setWindowIcon(WindowIcon());
   setAttribute(Qt::WA_DeleteOnClose);
   SetUpControls();
   ArrangeControls();

@@ -3,9 +3,9 @@
 
 #include "platform/InputBox.h"
 
-#include "platform/App.h"
 #include "platform/BoxOwner.h"
 #include "platform/Command.h"
+#include "platform/WindowIcon.h"
 
 #include <QIcon>
 #include <QInputDialog>
@@ -15,7 +15,7 @@ QString InputBox(const QString& prompt, const QString& title)
   const Command::Pause pause;
   QInputDialog box(BoxOwner());
   box.setWindowTitle(title);
-  box.setWindowIcon(QIcon(App::File(QStringLiteral("/animp.ico"))));
+  box.setWindowIcon(WindowIcon());
   box.setLabelText(prompt);
   return box.exec() == QDialog::Accepted ? box.textValue() : QString();
 }

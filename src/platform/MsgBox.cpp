@@ -3,11 +3,10 @@
 
 #include "platform/MsgBox.h"
 
-#include "platform/App.h"
 #include "platform/BoxOwner.h"
 #include "platform/Command.h"
+#include "platform/WindowIcon.h"
 
-#include <QFileInfo>
 #include <QKeyEvent>
 #include <QMessageBox>
 #include <QPushButton>
@@ -52,13 +51,6 @@ MsgBoxAnswer Answer(int button)
     default:
       return MsgBoxAnswer::kOk;
   }
-}
-
-// None if the file is damaged. A pipe in its place would be waited for.
-QIcon WindowIcon()
-{
-  const QString path = App::File(QStringLiteral("/animp.ico"));
-  return QFileInfo(path).isFile() ? QIcon(path) : QIcon();
 }
 
 // A key that is still held from the command that asks is no answer.

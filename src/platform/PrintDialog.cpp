@@ -3,12 +3,12 @@
 
 #include "platform/PrintDialog.h"
 
-#include "platform/App.h"
 #include "platform/BoxOwner.h"
 #include "platform/Command.h"
 #include "platform/PrintDocument.h"
 #include "platform/Printer.h"
 #include "platform/RuntimeError.h"
+#include "platform/WindowIcon.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -82,7 +82,7 @@ void ShowPrinter(PrinterDefault choice)
   const Command::Pause pause;
   std::unique_ptr<QPrinter> printer = FirstChoice();
   QPrintDialog dialog(printer.get(), BoxOwner());
-  dialog.setWindowIcon(QIcon(App::File(QStringLiteral("/animp.ico"))));
+  dialog.setWindowIcon(WindowIcon());
   OfferOneChoiceOfPages(dialog);
   if (dialog.exec() != QDialog::Accepted) {
     RaiseError(ErrorNumber::kCancelled);

@@ -7,6 +7,7 @@
 #include "platform/BoxOwner.h"
 #include "platform/Command.h"
 #include "platform/RuntimeError.h"
+#include "platform/WindowIcon.h"
 
 #include <QCoreApplication>
 #include <QIcon>
@@ -52,7 +53,7 @@ void PrintProgress::Show()
 {
   dialog_ = std::make_unique<QProgressDialog>(BoxOwner());
   dialog_->setWindowTitle(QLatin1String(App::kTitle));
-  dialog_->setWindowIcon(QIcon(App::File(QStringLiteral("/animp.ico"))));
+  dialog_->setWindowIcon(WindowIcon());
   dialog_->setLabelText(QStringLiteral("Printing..."));
   dialog_->setCancelButtonText(QStringLiteral("Cancel"));
   dialog_->setWindowModality(Qt::ApplicationModal);

@@ -7,13 +7,13 @@
 #include "looks/modMouseMove.h"
 #include "looks/modThemes.h"
 #include "looks/modToolTips.h"
-#include "platform/App.h"
 #include "platform/Attempt.h"
 #include "platform/Clock.h"
 #include "platform/LoadPicture.h"
 #include "platform/MediaDevice.h"
 #include "platform/Screen.h"
 #include "platform/Twips.h"
+#include "platform/WindowIcon.h"
 #include "reminders/NoticeDetails.h"
 #include "reminders/NoticeTexts.h"
 #include "reminders/modTextNotices.h"
@@ -43,7 +43,7 @@ frmTextNotice::frmTextNotice()
   setFixedSize(size());
   setWindowFlags(Qt::Window | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint |
                  Qt::CustomizeWindowHint);
-  setWindowIcon(QIcon(App::File(QStringLiteral("/animp.ico"))));
+  setWindowIcon(WindowIcon());
   lblOptions_.Collect(*this, QStringLiteral("lblOptions"));
   imgNote_.Collect(*this, QStringLiteral("imgNote"));
   for (const auto& [index, note] : imgNote_.All()) {

@@ -110,6 +110,13 @@ TEST_F(DamagedFiles, WhatStandsInThePlaceOfTheDatabaseEndsTheProgramWithAMessage
   }
 }
 
+TEST_F(DamagedFiles, AMessageDoesNotWaitForAnIcon)
+{
+  const Apart::Outcome outcome =
+      Try("/animp.ico", {"a pipe", false, PutPipe}, [](const Apart::Say& say, Damage&) { Visit::Pages(say, {}); });
+  EXPECT_EQ(outcome.end, Apart::End::kStopped);
+}
+
 TEST_F(DamagedFiles, TextsAndPicturesAreLeftOutOrToldOf)
 {
   ForEachReplacement({"/months.txt", "/reminders.txt", "/animp.ico", "/PeoplePics/1.bmp", "/AnnPics/1.bmp",
