@@ -49,7 +49,8 @@ qint64 ClipLength(const QString& path)
   constexpr qsizetype kHeaderSize = 44;
   constexpr qsizetype kByteRateAt = 28;
   QFile file(path);
-  if (!file.open(QIODevice::ReadOnly)) {
+  // A pipe in its place would be waited for.
+  if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly)) {
     return 0;
   }
   const QByteArray header = file.read(kHeaderSize);
