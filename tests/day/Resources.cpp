@@ -20,8 +20,10 @@ namespace {
 
 constexpr double kMegabyte = 1 << 20;
 
-// The toolkit keeps what it has drawn, such as letters and pictures, up to limits of its own.
-constexpr qint64 kHeapToSpare = 2 << 20;
+// The toolkit keeps what it has drawn, such as letters and pictures, up to limits of its own, and
+// the looks of windows that have gone until their places in memory are given out again. A page
+// that did not go would be far more by the end of a day.
+constexpr qint64 kHeapToSpare = 4 << 20;
 constexpr int kObjectsToSpare = 40;
 constexpr int kDescriptorsToSpare = 2;
 
