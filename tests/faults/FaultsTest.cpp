@@ -16,13 +16,16 @@ namespace {
 
 constexpr unsigned kSeed = 11;
 
-// What is left of a file that was being written when the process died, and the copy that
-// a compaction could not put in the place of the database.
-bool IsLeftOver(const QString& name, bool killed)
+// What is left of a file that was being written when the process died, or lost the right to
+// take it away; and the copy that a compaction could not put in the place of the database.
+bool IsLeftOver(const QString& name, const Trouble& trouble)
 {
+  using FileCalls::Fault;
+  const Fault fault = trouble.order.fault;
+  const bool mayStay = trouble.Kills() || fault == Fault::kNoRights || fault == Fault::kReadOnlyDisk;
   static const QRegularExpression halfWritten(R"(^((PeoplePics|AnnPics)/\d+\.bmp|backup\.mdb)\.\w{6}$)");
   static const QRegularExpression copy(R"(^Quillmark1\.mdb(-journal)?$)");
-  return name.contains(copy) || (killed && name.contains(halfWritten));
+  return name.contains(copy) || (mayStay && name.contains(halfWritten));
 }
 
 }
@@ -93,7 +96,7 @@ FaultTable::Rows FaultsTest::ExpectWhole(const HouseholdFolder::State& now, cons
   for (const QString& name : names) {
     const bool isOld = now.files.value(name) == before.files.value(name);
     const bool isNew = now.files.value(name) == after.files.value(name);
-    EXPECT_TRUE(isOld || (isNew && asEntered) || IsLeftOver(name, trouble.Kills())) << name.toStdString();
+    EXPECT_TRUE(isOld || (isNew && asEntered) || IsLeftOver(name, trouble)) << name.toStdString();
   }
   return asBefore ? FaultTable::Rows::kAsBefore : FaultTable::Rows::kAsEntered;
 }
