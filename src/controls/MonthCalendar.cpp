@@ -3,6 +3,7 @@
 
 #include "controls/MonthCalendar.h"
 
+#include "controls/MonthCalendarAccess.h"
 #include "platform/Clock.h"
 #include "platform/Months.h"
 
@@ -57,6 +58,7 @@ void PaintArrow(QPainter& painter, const QRect& room, int step, const QColor& co
 
 MonthCalendar::MonthCalendar(QWidget* parent) : QWidget(parent)
 {
+  MonthCalendarAccess::Install();
   setFocusPolicy(Qt::StrongFocus);
   setMouseTracking(true);
   setAccessibleName(QStringLiteral("Calendar"));

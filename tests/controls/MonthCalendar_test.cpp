@@ -522,3 +522,15 @@ TEST_F(MonthCalendarTest, NamesAreEnglishInEveryLocale)
   EXPECT_EQ(calendar_.accessibleDescription(), QStringLiteral("Sunday, 17 May 2026"));
   QLocale::setDefault(usual);
 }
+
+TEST(MonthCalendarAccess, TellsItsDateAsTheValueOfABox)
+{
+  MonthCalendar calendar;
+  calendar.SetValue(QDate(2026, 5, 9));
+  QAccessibleInterface* told = QAccessible::queryAccessibleInterface(&calendar);
+  ASSERT_NE(told, nullptr);
+  EXPECT_EQ(told->role(), QAccessible::SpinBox);
+  EXPECT_EQ(told->text(QAccessible::Name), "Calendar");
+  EXPECT_EQ(told->text(QAccessible::Value), calendar.accessibleDescription());
+  EXPECT_TRUE(told->text(QAccessible::Value).contains("9")) << told->text(QAccessible::Value).toStdString();
+}

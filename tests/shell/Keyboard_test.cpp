@@ -60,6 +60,7 @@ protected:
     const QString name = QLatin1String(GetParam().page);
     Command::Run([&] { Forms::Load(name).Show(); });
     Form& form = *Forms::Loaded(name);
+    form.window()->activateWindow();
     EXPECT_TRUE(QTest::qWaitForWindowActive(form.window()));
     for (const char* command : GetParam().opened) {
       Drive::Click(form, QLatin1String(command));
@@ -107,6 +108,9 @@ TEST_P(PagesByKeyboard, TellEachControlByNameAndRole)
 {
   const Form& form = Open();
   for (QWidget* widget : Controls(form)) {
+    if (!widget->isVisible()) {
+      continue;
+    }
     QAccessibleInterface* told = QAccessible::queryAccessibleInterface(widget);
     ASSERT_NE(told, nullptr) << Told(*widget);
     EXPECT_FALSE(told->text(QAccessible::Name).trimmed().isEmpty()) << Told(*widget);
@@ -137,9 +141,9 @@ INSTANTIATE_TEST_SUITE_P(Each, PagesByKeyboard,
                                          View{"frmSpecial", {"lblOptions_4"}}, View{"frmSpecial", {"lblOptions_5"}},
                                          View{"frmSpecial", {"lblOptions_6"}}, View{"frmCharts", {}},
                                          View{"frmReminders", {}}),
-                         [](const testing::TestParamInfo<View>& info) {
-                           std::string name = info.param.page;
-                           for (const char* command : info.param.opened) {
+                         [](const testing::TestParamInfo<View>& view) {
+                           std::string name = view.param.page;
+                           for (const char* command : view.param.opened) {
                              name += std::string("With") + command;
                            }
                            std::erase(name, '_');
