@@ -3,16 +3,16 @@
 
 #include "Resources.h"
 
+#include "support/Heap.h"
+
 #include <QApplication>
 #include <QDir>
 #include <QFile>
 #include <QWidget>
 
-#include <malloc.h>
 #include <unistd.h>
 
 #ifdef __SANITIZE_ADDRESS__
-extern "C" std::size_t __sanitizer_get_current_allocated_bytes();
 extern "C" void __sanitizer_print_memory_profile(std::size_t percent, std::size_t most);
 #endif
 
@@ -23,19 +23,14 @@ constexpr double kMegabyte = 1 << 20;
 // The toolkit keeps what it has drawn, such as letters and pictures, up to limits of its own, and
 // the looks of windows that have gone until their places in memory are given out again. A page
 // that did not go would be far more by the end of a day.
-constexpr qint64 kHeapToSpare = 4 << 20;
-constexpr int kObjectsToSpare = 40;
-constexpr int kDescriptorsToSpare = 2;
-
-qint64 Heap()
-{
 #ifdef __SANITIZE_ADDRESS__
-  return static_cast<qint64>(__sanitizer_get_current_allocated_bytes());
+// No place is given out again for long.
+constexpr qint64 kHeapToSpare = 8 << 20;
 #else
-  const auto info = mallinfo2();
-  return static_cast<qint64>(info.uordblks + info.hblkhd);
+constexpr qint64 kHeapToSpare = 2 << 20;
 #endif
-}
+constexpr int kObjectsToSpare = 80;
+constexpr int kDescriptorsToSpare = 2;
 
 qint64 Resident()
 {
@@ -66,7 +61,7 @@ QString Grown(const char* what, qint64 before, qint64 now, qint64 toSpare)
 
 Resources Resources::Now()
 {
-  return {.heap = Heap(),
+  return {.heap = Heap::BytesInUse(),
           .resident = Resident(),
           .objects = Objects(),
           .widgets = static_cast<int>(QApplication::allWidgets().size()),
