@@ -323,8 +323,14 @@ TEST_F(EventEditorLoad, StandsOverTheCalendarAlsoWhileTheHelpIsActive)
   const QWidget& below = *CalendarBehind::Page().window();
   HelpViewer::ShowContents();
   ASSERT_TRUE(QTest::qWaitForWindowActive(HelpOnScreen::Window()));
-  Open();
-  EXPECT_EQ(Page().windowHandle()->transientParent(), below.windowHandle());
-  HelpViewer::Quit();
-  EXPECT_TRUE(IsOpen());
+  int shown = 0;
+  Drive::WhenShown("frmCalEdit", [&](QWidget& form) {
+    ++shown;
+    EXPECT_EQ(form.windowHandle()->transientParent(), below.windowHandle());
+    HelpViewer::Quit();
+    EXPECT_TRUE(IsOpen());
+    Click(Editor::kClose);
+  });
+  Drive::Click(CalendarBehind::Page(), "lblDay_16");
+  EXPECT_EQ(shown, 1);
 }

@@ -54,7 +54,7 @@ def source_texts():
     files = [each for folder in CODE_FOLDERS for each in (ROOT / folder).rglob("*") if each.suffix in CODE_ENDINGS]
     files += [ROOT / name for name in ("CMakeLists.txt", "CMakePresets.json", "packages.txt", "run", "check")]
     own = [each for each in files if each.is_file() and each != pathlib.Path(__file__).resolve()]
-    return "\n".join(text_of(each) for each in own)
+    return "\n".join(each.read_text(encoding="utf-8", errors="replace") for each in own)
 
 
 class Folders(unittest.TestCase):
