@@ -7,10 +7,10 @@
 #include "store/Database.h"
 #include "store/Queries.h"
 
+#include <functional>
+
 namespace Occasions {
 namespace {
-
-constexpr int kFirstDayOfTwoDigits = 10;
 
 // The rows of one value, without reading any other.
 std::unique_ptr<Recordset> OpenAt(Database& database, const QString& query, const QString& column,
@@ -31,6 +31,30 @@ QVariant ValueOf(const Field& field)
   return text.isEmpty() ? QVariant() : QVariant(text);
 }
 
+// As a number, which most days are without a point.
+bool IsBelowTen(const QString& day)
+{
+  constexpr int kTen = 10;
+  bool isWhole = false;
+  const int whole = day.toInt(&isWhole);
+  return isWhole ? whole < kTen : IsNumeric(day) && day.toDouble() < kTen;
+}
+
+// A month of a large household has thousands of entries.
+QString Joined(std::initializer_list<QStringView> parts)
+{
+  qsizetype length = 0;
+  for (const QStringView part : parts) {
+    length += part.size();
+  }
+  QString joined;
+  joined.reserve(length);
+  for (const QStringView part : parts) {
+    joined += part;
+  }
+  return joined;
+}
+
 // The columns of a cursor, found once for all its rows.
 class BirthdayColumns
 {
@@ -48,8 +72,15 @@ public:
   [[nodiscard]] bool IsIn(const QString& month) const { return month_.Peek() == month; }
   [[nodiscard]] Birthday Read() const
   {
-    return {peopleID_.Peek().toInt(), TextOf(firstName_), TextOf(lastName_), TextOf(gender_),
-            TextOf(month_),           ValueOf(date_),     ValueOf(year_)};
+    Birthday birthday = ReadEntry();
+    birthday.gender = TextOf(gender_);
+    birthday.year = ValueOf(year_);
+    return birthday;
+  }
+  // What a list shows of it: columns that are not asked for are not read.
+  [[nodiscard]] Birthday ReadEntry() const
+  {
+    return {peopleID_.Peek().toInt(), TextOf(firstName_), TextOf(lastName_), {}, TextOf(month_), ValueOf(date_), {}};
   }
 
 private:
@@ -75,16 +106,23 @@ public:
   [[nodiscard]] bool IsIn(const QString& month) const { return month_.Peek() == month; }
   [[nodiscard]] Anniversary Read() const
   {
-    return {annID_.Peek().toInt(),
-            spouse1ID_.Peek().toInt(),
-            spouse2ID_.Peek().toInt(),
-            TextOf(spouse1First_),
-            TextOf(spouse1Last_),
-            TextOf(spouse2First_),
-            TextOf(spouse2Last_),
-            TextOf(month_),
-            ValueOf(date_),
-            ValueOf(year_)};
+    Anniversary anniversary = ReadEntry();
+    anniversary.spouse1ID = spouse1ID_.Peek().toInt();
+    anniversary.spouse2ID = spouse2ID_.Peek().toInt();
+    anniversary.spouse1Last = TextOf(spouse1Last_);
+    anniversary.spouse2Last = TextOf(spouse2Last_);
+    anniversary.year = ValueOf(year_);
+    return anniversary;
+  }
+  [[nodiscard]] Anniversary ReadEntry() const
+  {
+    Anniversary anniversary;
+    anniversary.annID = annID_.Peek().toInt();
+    anniversary.spouse1First = TextOf(spouse1First_);
+    anniversary.spouse2First = TextOf(spouse2First_);
+    anniversary.month = TextOf(month_);
+    anniversary.date = ValueOf(date_);
+    return anniversary;
   }
 
 private:
@@ -92,30 +130,63 @@ private:
       &date_, &year_;
 };
 
+void ForEachBirthday(Database& database, const QString& month, const std::function<void(const BirthdayColumns&)>& take)
+{
+  const auto rows = OpenAt(database, Queries::kBirthdaysByMonth, QStringLiteral("BirthMonth"), month);
+  const BirthdayColumns columns(*rows);
+  for (; !rows->Eof(); rows->MoveNext()) {
+    if (columns.IsIn(month)) {
+      take(columns);
+    }
+  }
+}
+
+void ForEachAnniversary(Database& database, const QString& month,
+                        const std::function<void(const AnniversaryColumns&)>& take)
+{
+  const auto rows = OpenAt(database, Queries::kAnniversariesByMonth, QStringLiteral("AnnMonth"), month);
+  const AnniversaryColumns columns(*rows);
+  for (; !rows->Eof() && columns.IsIn(month); rows->MoveNext()) {
+    take(columns);
+  }
+}
+
 }
 
 std::vector<Birthday> BirthdaysOf(Database& database, const QString& month)
 {
-  const auto rows = OpenAt(database, Queries::kBirthdaysByMonth, QStringLiteral("BirthMonth"), month);
-  const BirthdayColumns columns(*rows);
   std::vector<Birthday> found;
-  for (; !rows->Eof(); rows->MoveNext()) {
-    if (columns.IsIn(month)) {
-      found.push_back(columns.Read());
-    }
-  }
+  ForEachBirthday(database, month, [&](const BirthdayColumns& columns) { found.push_back(columns.Read()); });
   return found;
 }
 
 std::vector<Anniversary> AnniversariesOf(Database& database, const QString& month)
 {
-  const auto rows = OpenAt(database, Queries::kAnniversariesByMonth, QStringLiteral("AnnMonth"), month);
-  const AnniversaryColumns columns(*rows);
   std::vector<Anniversary> found;
-  for (; !rows->Eof() && columns.IsIn(month); rows->MoveNext()) {
-    found.push_back(columns.Read());
-  }
+  ForEachAnniversary(database, month, [&](const AnniversaryColumns& columns) { found.push_back(columns.Read()); });
   return found;
+}
+
+Entries BirthdayEntriesOf(Database& database, const QString& month)
+{
+  Entries entries;
+  ForEachBirthday(database, month, [&](const BirthdayColumns& columns) {
+    const Birthday birthday = columns.ReadEntry();
+    entries.keys.push_back(birthday.peopleID);
+    entries.lines.append(Entry(birthday));
+  });
+  return entries;
+}
+
+Entries AnniversaryEntriesOf(Database& database, const QString& month)
+{
+  Entries entries;
+  ForEachAnniversary(database, month, [&](const AnniversaryColumns& columns) {
+    const Anniversary anniversary = columns.ReadEntry();
+    entries.keys.push_back(anniversary.annID);
+    entries.lines.append(Entry(anniversary));
+  });
+  return entries;
 }
 
 std::optional<Birthday> BirthdayOf(Database& database, int peopleID)
@@ -133,15 +204,14 @@ std::optional<Anniversary> AnniversaryOf(Database& database, int annID)
 QString Entry(const Birthday& birthday)
 {
   const QString day = birthday.date.toString();
-  const bool oneDigit = IsNumeric(day) && day.toDouble() < kFirstDayOfTwoDigits;
-  return birthday.month + (oneDigit ? QStringLiteral("  ") : QStringLiteral(" ")) + day + QStringLiteral(" - ") +
-         birthday.firstName + QLatin1Char(' ') + birthday.lastName;
+  const bool oneDigit = IsBelowTen(day);
+  return Joined({birthday.month, oneDigit ? u"  " : u" ", day, u" - ", birthday.firstName, u" ", birthday.lastName});
 }
 
 QString Entry(const Anniversary& anniversary)
 {
-  return anniversary.month + QLatin1Char(' ') + anniversary.date.toString() + QStringLiteral(" - ") +
-         anniversary.spouse1First + QStringLiteral(" and ") + anniversary.spouse2First;
+  return Joined({anniversary.month, u" ", anniversary.date.toString(), u" - ", anniversary.spouse1First, u" and ",
+                 anniversary.spouse2First});
 }
 
 }

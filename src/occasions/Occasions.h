@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include <QString>
+#include <QStringList>
 #include <QVariant>
 
 #include <optional>
@@ -48,6 +48,15 @@ struct Anniversary
 // The couples married in the month, in the same order. The store finds the first one
 // without regard to case; the first row whose month is not exactly this one ends them.
 [[nodiscard]] std::vector<Anniversary> AnniversariesOf(Database& database, const QString& month);
+
+// The same as a list shows them, in the same order.
+struct Entries
+{
+  std::vector<int> keys;
+  QStringList lines;
+};
+[[nodiscard]] Entries BirthdayEntriesOf(Database& database, const QString& month);
+[[nodiscard]] Entries AnniversaryEntriesOf(Database& database, const QString& month);
 
 // One of them by its key, whatever its month; nothing if it is gone. No other row is read.
 [[nodiscard]] std::optional<Birthday> BirthdayOf(Database& database, int peopleID);

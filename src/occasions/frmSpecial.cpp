@@ -139,13 +139,9 @@ void frmSpecial::ThisMonth()
   lastBirthdayMonth_ = month_;
   ui_->lblBirthdays->setText(month_ + QStringLiteral(" birthdays"));
   birthdays_.info.SetText(QStringLiteral("Birthday details for..."));
-  QStringList lines;
-  birthdays_.keys.clear();
-  for (const Occasions::Birthday& birthday : Occasions::BirthdaysOf(*database_, month_)) {
-    birthdays_.keys.push_back(birthday.peopleID);
-    lines.append(Occasions::Entry(birthday));
-  }
-  Fill(birthdays_, lines, kNoBirthdays, QStringLiteral("Click on a name (above) for more birthday details"));
+  Occasions::Entries entries = Occasions::BirthdayEntriesOf(*database_, month_);
+  birthdays_.keys = std::move(entries.keys);
+  Fill(birthdays_, entries.lines, kNoBirthdays, QStringLiteral("Click on a name (above) for more birthday details"));
 }
 
 void frmSpecial::AnnMonth()
@@ -157,13 +153,9 @@ void frmSpecial::AnnMonth()
   anniversaries_.info.SetText(QStringLiteral("Anniversary details for..."));
   ui_->lblAnn->setText(month_ + QStringLiteral(" anniversaries"));
   Couples::ConvertBlanks(*database_);
-  QStringList lines;
-  anniversaries_.keys.clear();
-  for (const Occasions::Anniversary& anniversary : Occasions::AnniversariesOf(*database_, month_)) {
-    anniversaries_.keys.push_back(anniversary.annID);
-    lines.append(Occasions::Entry(anniversary));
-  }
-  Fill(anniversaries_, lines, kNoAnniversaries,
+  Occasions::Entries entries = Occasions::AnniversaryEntriesOf(*database_, month_);
+  anniversaries_.keys = std::move(entries.keys);
+  Fill(anniversaries_, entries.lines, kNoAnniversaries,
        QStringLiteral("Click on a couple (above) for more anniversary details"));
 }
 

@@ -150,13 +150,14 @@ Statement::Exact Statement::ExactValue(int column) const
 
 QVariant Statement::Value(int column, ColumnType type) const
 {
-  if (IsNull(column)) {
+  const Kind kind = KindOf(column);
+  if (kind == Kind::kNull) {
     return {};
   }
-  if (IsNumber(column) && type == ColumnType::kYesNo) {
+  if (kind == Kind::kNumber && type == ColumnType::kYesNo) {
     return Number(column) != 0;
   }
-  if (IsNumber(column) && type == ColumnType::kInteger) {
+  if (kind == Kind::kNumber && type == ColumnType::kInteger) {
     return QVariant::fromValue<qlonglong>(Integer(column));
   }
   return ValueFromText(Text(column), type);
