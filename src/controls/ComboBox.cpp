@@ -55,8 +55,6 @@ ComboBox::ComboBox(QWidget* parent) : QComboBox(parent), lines_(new LinesModel(t
   list->setLayoutMode(QListView::SinglePass);
   setView(list);
   setModel(lines_);
-  // As a pop-up the toolkit would measure every line before it opens.
-  setStyleSheet(QStringLiteral("combobox-popup: 0"));
   setCurrentIndex(-1);
   setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
   setMaxVisibleItems(kVisibleLines);

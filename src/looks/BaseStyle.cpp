@@ -32,3 +32,9 @@ QIcon BaseStyle::standardIcon(StandardPixmap standardIcon, const QStyleOption* o
   return standardIcon == SP_ToolBarHorizontalExtensionButton ? MoreIcon()
                                                              : QProxyStyle::standardIcon(standardIcon, option, widget);
 }
+
+int BaseStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                         QStyleHintReturn* returned) const
+{
+  return hint == SH_ComboBox_Popup ? 0 : QProxyStyle::styleHint(hint, option, widget, returned);
+}

@@ -5,8 +5,9 @@
 
 #include <QProxyStyle>
 
-// The toolkit's Fusion style, but for one icon that every menu bar asks for: the toolkit's own
-// is a picture file, for which it loads all kinds of picture readers at the start.
+// The toolkit's Fusion style, but for two things. The icon that every menu bar asks for is a
+// picture file there, for which the toolkit loads all kinds of picture readers at the start. And
+// lists of boxes are no pop-up menus, of which every line would be measured before they open.
 class BaseStyle : public QProxyStyle
 {
   Q_OBJECT
@@ -16,4 +17,6 @@ public:
 
   [[nodiscard]] QIcon standardIcon(StandardPixmap standardIcon, const QStyleOption* option,
                                    const QWidget* widget) const override;
+  [[nodiscard]] int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                              QStyleHintReturn* returned) const override;
 };

@@ -3,6 +3,7 @@
 
 #include "looks/Style.h"
 
+#include "controls/ComboBox.h"
 #include "controls/Label.h"
 
 #include <gtest/gtest.h>
@@ -12,6 +13,7 @@
 #include <QImage>
 #include <QMap>
 #include <QRegularExpression>
+#include <QStyleOptionComboBox>
 
 #include <cmath>
 
@@ -180,4 +182,16 @@ TEST_F(StyleTest, DisabledCommandIsPaintedPaler)
   const double enabled = ink();
   label.setEnabled(false);
   EXPECT_GT(ink(), enabled + 0.1);
+}
+
+TEST_F(StyleTest, ListsOfBoxesAreNoPopUpMenus)
+{
+  ComboBox box;
+  QStyleOptionComboBox option;
+  EXPECT_EQ(box.style()->styleHint(QStyle::SH_ComboBox_Popup, &option, &box), 0);
+}
+
+TEST_F(StyleTest, AMenuBarHasAnIconForWhatDoesNotFit)
+{
+  EXPECT_FALSE(QApplication::style()->standardIcon(QStyle::SP_ToolBarHorizontalExtensionButton).isNull());
 }
