@@ -20,15 +20,11 @@ namespace {
 
 constexpr double kMegabyte = 1 << 20;
 
-// The toolkit keeps what it has drawn, such as letters and pictures, up to limits of its own, and
-// the looks of windows that have gone until their places in memory are given out again. A page
-// that did not go would be far more by the end of a day.
-#ifdef __SANITIZE_ADDRESS__
-// No place is given out again for long.
+// With a style sheet the toolkit keeps somewhat less than a kilobyte of each list or box that has
+// gone, until its place in memory is given out again, and it keeps what it has drawn, such as
+// letters and pictures, up to limits of its own. A page that did not go would be far more by the
+// end of a day.
 constexpr qint64 kHeapToSpare = 8 << 20;
-#else
-constexpr qint64 kHeapToSpare = 2 << 20;
-#endif
 constexpr int kObjectsToSpare = 80;
 constexpr int kDescriptorsToSpare = 2;
 
